@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+// States of a player, by the numbers that the station's rules know them by.
+enum class PlayState {
+  kUndefined = 0,
+  kStopped = 1,
+  kPaused = 2,
+  kPlaying = 3,
+  kBuffering = 6,
+  kMediaEnded = 8,
+  kTransitioning = 9,  // a file is being opened
+  kReady = 10,
+};
+
+// Hears what a player reports. Called on the station's thread, never from inside a call of the player.
+class MediaListener {
+ public:
+  virtual ~MediaListener() = default;
+  virtual void PlayStateChanged(PlayState state) = 0;
+  // A file has been opened: its duration is known now, if it has one.
+  virtual void MediaChanged() = 0;
+};
+
+// One player with its picture surface; one instance lasts as long as the surface. It plays video, audio and pictures
+// alike: a picture stands for 5 seconds and then ends. What cannot be played (absent, no media, not a regular file)
+// raises nothing at all: the state just never becomes kMediaEnded.
+class MediaPlayer {
+ public:
+  virtual ~MediaPlayer() = default;
+
+  // Opens a file or a stream and starts it at once, in place of what played before; that is no end of the former item.
+  // The empty text closes what is open.
+  virtual void Open(const std::string& url) = 0;
+  virtual void Play() = 0;
+  virtual void Pause() = 0;
+  // Black and silent; not an end.
+  virtual void Stop() = 0;
+
+  // Seconds from the start; 0 when nothing is open.
+  virtual double Position() const = 0;
+  // Seeks. Before the file is open the wish is kept and carried out when it is. Beyond the end: the item ends.
+  virtual void SetPosition(double seconds) = 0;
+  // Seconds; 0 when it is not known (nothing open yet, or a stream without an end).
+  virtual double Duration() const = 0;
+  virtual PlayState State() const = 0;
+  // The state in words, for the operator: "Playing", "Connecting...", "Buffering", "Stopped", "Paused", "Finished", "".
+  virtual std::string Status() const = 0;
+  // The present item has been opened.
+  virtual bool IsOpen() const = 0;
+
+  virtual void SetMute(bool mute) = 0;
+  virtual void SetVolume(int percent) = 0;  // 0 to 100
+  // Small pictures are scaled up to the surface, in their own proportions; large ones are always scaled down to it.
+  virtual void SetStretchToFit(bool stretch) = 0;
+};
+
+// Makes the players.
+class MediaEngine {
+ public:
+  virtual ~MediaEngine() = default;
+  // `listener` must outlive the player.
+  virtual std::unique_ptr<MediaPlayer> NewPlayer(MediaListener& listener) = 0;
+};
