@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+// The desktop that the station runs on. None of these report anything: what cannot be done is left undone.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  // Has `command` started at each log-on of this user, under `name`.
+  virtual void RunAtLogOn(const std::string& name, const std::string& command) = 0;
+  // Calls `pressed` whenever Ctrl and `letter` (A to Z) are pressed, whatever has the keyboard. Does nothing where
+  // another program holds the key.
+  virtual void RegisterHotKey(int id, char letter, std::function<void()> pressed) = 0;
+  // 0 keeps the screen from blanking and saving.
+  virtual void SetScreenSaverActive(int value) = 0;
+  virtual void SetTaskbarVisible(bool show) = 0;
+  // Counts up or down, from 0; the cursor is blank while the count is below 0.
+  virtual void ShowCursor(bool show) = 0;
+  // Ends the process at once; no form is unloaded. Returns in the virtual world only.
+  virtual void EndProcess() = 0;
+};

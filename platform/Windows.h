@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "platform/toolkit/Measures.h"
+
+class Control;
+class Form;
+
+// The real window behind a form. It follows the form's and the controls' properties by observing them, and tells the
+// form what the operator does. When it goes, the window is off the screen.
+class FormWindow {
+ public:
+  virtual ~FormWindow() = default;
+
+  // Gives a control the keyboard, inside its own window; the window itself is not brought forward.
+  virtual void Focus(const Control& control) = 0;
+  // Hands the window to the pointer, as if by a title bar, until the button is released; then calls `done`.
+  virtual void DragWindow(std::function<void()> done) = 0;
+  // The same for one pane inside the window.
+  virtual void DragPane(Control& pane, std::function<void()> done) = 0;
+};
+
+// The window system.
+class Windows {
+ public:
+  virtual ~Windows() = default;
+
+  // Makes the window of a form, hidden unless the form is visible. The form outlives it.
+  virtual std::unique_ptr<FormWindow> Create(Form& form) = 0;
+  // The primary display.
+  virtual PixelSize ScreenSize() const = 0;
+};

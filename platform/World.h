@@ -1,0 +1,22 @@
+#pragma once
+
+class Clock;
+class Desktop;
+class Dialogs;
+class Files;
+class MediaEngine;
+class Pictures;
+class Scheduler;
+class Windows;
+
+// All that the core knows of the world around it. There are two: the real one and the virtual one.
+struct World {
+  Clock& clock;
+  Scheduler& scheduler;
+  Files& files;
+  MediaEngine& media;
+  Pictures& pictures;
+  Windows& windows;
+  Dialogs& dialogs;
+  Desktop& desktop;
+};

@@ -1,0 +1,54 @@
+#include "platform/toolkit/FileListBox.h"
+
+#include <utility>
+
+#include "platform/Files.h"
+#include "platform/toolkit/Failure.h"
+#include "platform/toolkit/Form.h"
+#include "platform/toolkit/Wildcards.h"
+
+FileListBox::FileListBox(Form& form, std::string name)
+    : Control(form, std::move(name)),
+      Path("",
+           [this](const std::string& folder) {
+             if (Owner().Outside().files.Kind(folder) != FileKind::kFolder) throw Failure("Path not found: " + folder);
+             Path.Store(folder.size() > 1 && folder.back() == '/' ? folder.substr(0, folder.size() - 1) : folder);
+             Refresh();
+           }),
+      Pattern("",
+              [this](const std::string& pattern) {
+                Pattern.Store(pattern);
+                Refresh();
+              }),
+      ListIndex(-1, [this](const int& index) {
+        if (index != -1) List(index);
+        ListIndex.Store(index);
+        if (index != -1) Handle([this] { Click.Raise(); });
+      }) {}
+
+void FileListBox::Refresh() {
+  Fill();
+  ListIndex.Store(-1);
+  ItemsChanged.Raise();
+}
+
+void FileListBox::Fill() {
+  files_.clear();
+  if (Path.Get().empty()) return;
+  for (std::string& name : Owner().Outside().files.List(Path, FileKind::kRegular)) {
+    if (FitsPattern(name, Pattern.Get())) files_.push_back(std::move(name));
+  }
+}
+
+const std::string& FileListBox::List(int index) const {
+  if (index < 0 || index >= ListCount()) throw Failure("There is no such file in " + Name() + ".");
+  return files_[static_cast<std::size_t>(index)];
+}
+
+std::string FileListBox::FileName() const { return ListIndex < 0 ? "" : List(ListIndex); }
+
+std::string FileListBox::FilePath() const { return (Path.Get() == "/" ? "" : Path.Get()) + "/" + FileName(); }
+
+void FileListBox::Pick(int index) {
+  Handle([this, index] { ListIndex = index; });
+}

@@ -1,0 +1,53 @@
+#include "platform/toolkit/Form.h"
+
+#include "platform/Windows.h"
+
+namespace {
+
+// A handler may stand in a dialog while the form is unloaded; the count keeps the object until it has returned.
+class Counted {
+ public:
+  explicit Counted(int& count) : count_(count) { ++count_; }
+  ~Counted() { --count_; }
+
+ private:
+  int& count_;
+};
+
+}  // namespace
+
+Form::Form(Forms& forms, std::string name, Kind kind) : forms_(forms), name_(std::move(name)), kind_(kind) {}
+
+Form::~Form() = default;
+
+void Form::Focus(const Control& control) {
+  if (window_) window_->Focus(control);
+}
+
+void Form::Close() {
+  Handle([this] { forms_.Unload(*this); });
+}
+
+void Form::PressMouse(MouseButton button) {
+  Handle([this, button] { MouseDown.Raise(button); });
+}
+
+Answer Form::MsgBox(const std::string& text, Buttons buttons, const std::string& title) {
+  const Counted standing(handlersRunning_);
+  return Outside().dialogs.MsgBox(text, title, buttons);
+}
+
+std::string Form::InputBox(const std::string& prompt, const std::string& title) {
+  const Counted standing(handlersRunning_);
+  return Outside().dialogs.InputBox(prompt, title);
+}
+
+void Form::Handle(const std::function<void()>& handler) {
+  if (!retired_) forms_.Dispatch(*this, handler);
+}
+
+void Form::Retire() {
+  retired_ = true;
+  window_.reset();  // first: it shows what the components are about to let go of
+  for (Component* component : components_) component->Retire();
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Dialogs.h"
+#include "platform/World.h"
+#include "platform/toolkit/Control.h"
+#include "platform/toolkit/Forms.h"
+
+class FormWindow;
+
+// The title of every box that a rule gives no other.
+inline constexpr char kStandardTitle[] = "Corvanta 6.0";
+
+// One window of the system with its controls: an observable object that draws nothing itself. There is at most one
+// instance of each form; see Forms.
+class Form {
+ public:
+  enum class Kind {
+    kOperator,  // drawn from the layout file of its name
+    kOnAir,     // borderless, drawn from the controls' own measures
+  };
+
+  Form(Forms& forms, std::string name, Kind kind);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return name_; }
+  Kind Type() const { return kind_; }
+  const std::vector<Component*>& Components() const { return components_; }
+  // The controls directly on the form, front to back.
+  const std::vector<Control*>& Controls() const { return controls_; }
+  World& Outside() const { return forms_.Outside(); }
+
+  void Show() { Visible = true; }
+  void Hide() { Visible = false; }
+  void Focus(const Control& control);
+  // The operator asks to close the window.
+  void Close();
+  void PressMouse(MouseButton button);
+
+  // Stands before the operator until answered; timers tick on meanwhile.
+  Answer MsgBox(const std::string& text, Buttons buttons = Buttons::kOk, const std::string& title = kStandardTitle);
+  std::string InputBox(const std::string& prompt, const std::string& title);
+
+  // Runs a handler as every tick and operator's event is run: a failure that nothing skipped ends the handler and
+  // shows one message box, and the station goes on. Nothing happens once the form is unloaded.
+  void Handle(const std::function<void()>& handler);
+
+  // The window; there is none while the form is constructed and after it is unloaded.
+  FormWindow* Window() const { return window_.get(); }
+
+  Property<std::string> Caption;
+  Property<bool> Visible{false};
+  Property<bool> OnTop{false};
+  Property<Twips> Left;
+  Property<Twips> Top;
+  Property<Twips> Width;
+  Property<Twips> Height;
+
+  Event<MouseButton> MouseDown;
+
+ protected:
+  // Brings the form up, hidden.
+  virtual void Load() {}
+  // An unload is asked for, by the operator's close or by the program. False refuses it; a form that refuses hides
+  // itself.
+  virtual bool MayUnload() { return true; }
+
+ private:
+  friend class Forms;
+  friend class Component;
+  friend class Control;
+
+  void Add(Component& component) { components_.push_back(&component); }
+  void AddControl(Control& control) { controls_.push_back(&control); }
+  void Retire();
+
+  Forms& forms_;
+  std::string name_;
+  Kind kind_;
+  std::vector<Component*> components_;
+  std::vector<Control*> controls_;
+  std::unique_ptr<FormWindow> window_;
+  int handlersRunning_ = 0;
+  bool retired_ = false;
+};

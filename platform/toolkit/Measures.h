@@ -1,0 +1,28 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+
+// A measure on a form: 15 to a pixel at 96 dots per inch.
+using Twips = double;
+
+inline constexpr Twips kTwipsPerPixel = 15.0;
+
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+
+  bool operator==(const Colour&) const = default;
+};
+
+inline constexpr Colour kBlack{0, 0, 0};
+inline constexpr Colour kWhite{255, 255, 255};
+inline constexpr Colour kRed{255, 0, 0};
+
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+
+  bool operator==(const PixelSize&) const = default;
+};

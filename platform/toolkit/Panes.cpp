@@ -1,0 +1,44 @@
+#include "platform/toolkit/Panes.h"
+
+#include "platform/Files.h"
+#include "platform/Pictures.h"
+#include "platform/toolkit/Failure.h"
+#include "platform/toolkit/Form.h"
+
+PictureBox::PictureBox(Form& form, std::string name, Sizing sizing) : Control(form, std::move(name)), sizing_(sizing) {}
+
+PictureBox::PictureBox(Control& container, std::string name, Sizing sizing)
+    : Control(container, std::move(name)), sizing_(sizing) {}
+
+void PictureBox::LoadPicture(const std::string& path) {
+  PixelSize size;
+  if (!path.empty()) {
+    const auto known = Owner().Outside().pictures.Size(path);
+    if (!known) throw Failure("Invalid picture: " + path);
+    size = *known;
+  }
+  if (sizing_ == Sizing::kByPicture) {
+    Width = size.width * kTwipsPerPixel;
+    Height = size.height * kTwipsPerPixel;
+  }
+  Picture = LoadedPicture{path, Picture.Get().load + 1};
+}
+
+namespace {
+
+auto MovieSetter(FlashBox& box) {
+  return [&box](const std::string& path) {
+    if (!path.empty() && box.Owner().Outside().files.Kind(path) != FileKind::kRegular) {
+      throw Failure("Movie not found: " + path);
+    }
+    box.Movie.Store(path);
+    box.Loaded = LoadedPicture{path, box.Loaded.Get().load + 1};
+  };
+}
+
+}  // namespace
+
+FlashBox::FlashBox(Form& form, std::string name) : Control(form, std::move(name)), Movie("", MovieSetter(*this)) {}
+
+FlashBox::FlashBox(Control& container, std::string name)
+    : Control(container, std::move(name)), Movie("", MovieSetter(*this)) {}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+
+#include "platform/toolkit/Control.h"
+#include "platform/toolkit/Settable.h"
+
+// A picture file that a pane shows. Two loads of one path are two pictures: the file may have been written anew.
+struct LoadedPicture {
+  std::string path;  // empty: no picture
+  int load = 0;
+
+  bool operator==(const LoadedPicture&) const = default;
+};
+
+// A pane: a coloured rectangle that may show a picture and holds and clips other controls.
+class PictureBox : public Control {
+ public:
+  enum class Sizing { kFixed, kByPicture };
+
+  PictureBox(Form& form, std::string name, Sizing sizing = Sizing::kFixed);
+  PictureBox(Control& container, std::string name, Sizing sizing = Sizing::kFixed);
+  std::string_view Kind() const override { return "PictureBox"; }
+
+  // Shows the picture at its own size, from the pane's left top corner; with kByPicture the pane takes its size at
+  // once. Fails when the file is absent or no picture, and the pane stays as it was. The empty path clears the pane.
+  void LoadPicture(const std::string& path);
+
+  Property<LoadedPicture> Picture;
+  Property<Colour> BackColor{kBlack};
+
+ private:
+  Sizing sizing_;
+};
+
+// A text on a pane.
+class Caption : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "Caption"; }
+
+  Property<std::string> Text;
+  Property<Colour> ForeColor{kWhite};
+};
+
+// Shows a movie, or a picture as if it were a movie of one frame, over all of its rectangle.
+class FlashBox : public Control {
+ public:
+  FlashBox(Form& form, std::string name);
+  FlashBox(Control& container, std::string name);
+  std::string_view Kind() const override { return "FlashBox"; }
+
+  // Loads the file. One that is absent leaves what was shown; the empty text shows nothing.
+  Settable<std::string> Movie;
+  // What is loaded now.
+  Property<LoadedPicture> Loaded;
+};

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/toolkit/Control.h"
+#include "platform/toolkit/Settable.h"
+
+// The plain controls of operator forms. What an operator does to one is an operation here (`Press`, `Toggle`, `Type`),
+// called by the window and by tests alike.
+
+class Label : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "Label"; }
+
+  Property<std::string> Caption;
+};
+
+// A titled group of other controls.
+class Frame : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "Frame"; }
+
+  Property<std::string> Caption;
+};
+
+class CommandButton : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "CommandButton"; }
+
+  void Press();
+
+  Property<std::string> Caption;
+  Event<> Click;
+};
+
+class CheckBox : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "CheckBox"; }
+
+  // Turns the box over, as the operator's click does.
+  void Toggle();
+  bool Ticked() const { return Value == 1; }
+
+  Property<int> Value{0};  // 0 or 1
+  Event<> Click;
+};
+
+class TextBox : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "TextBox"; }
+
+  // What the operator types; takes the place of all the text.
+  void Type(const std::string& text);
+
+  Property<std::string> Text;
+  Event<> Change;  // by the operator
+};
+
+// A list behind a text; the text may be typed.
+class ComboBox : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "ComboBox"; }
+
+  void AddItem(const std::string& item);
+  int ListCount() const { return static_cast<int>(items_.size()); }
+  // From 0. Fails outside the list.
+  const std::string& List(int index) const;
+  // The operator picks or types.
+  void Pick(int index);
+  void Type(const std::string& text);
+
+  Property<std::string> Text;
+  Event<> ItemsChanged;
+  Event<> Click;
+
+ private:
+  std::vector<std::string> items_;
+};
+
+class Slider : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "Slider"; }
+
+  // The operator presses, drags or lets go, with any button; the value goes there first.
+  void Work(int value);
+
+  Property<int> Min{0};
+  Property<int> Max{10};
+  Property<int> Value{0};
+  Event<> Worked;
+};
+
+// A small panel that is one colour.
+class ColourPanel : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "ColourPanel"; }
+
+  Property<Colour> BackColor{kWhite};
+};
