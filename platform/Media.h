@@ -61,6 +61,7 @@ class MediaPlayer {
 class MediaEngine {
  public:
   virtual ~MediaEngine() = default;
+  // Cheap: what playing costs is spent at the first Open. `name` ("frmPlayer.Player") is for diagnosis alone;
   // `listener` must outlive the player.
-  virtual std::unique_ptr<MediaPlayer> NewPlayer(MediaListener& listener) = 0;
+  virtual std::unique_ptr<MediaPlayer> NewPlayer(const std::string& name, MediaListener& listener) = 0;
 };

@@ -42,6 +42,11 @@ std::string Form::InputBox(const std::string& prompt, const std::string& title) 
   return Outside().dialogs.InputBox(prompt, title);
 }
 
+std::string Form::BrowseFolder(const std::string& title, const std::string& start) {
+  const Counted standing(handlersRunning_);
+  return Outside().dialogs.BrowseFolder(title, start);
+}
+
 void Form::Handle(const std::function<void()>& handler) {
   if (!retired_) forms_.Dispatch(*this, handler);
 }

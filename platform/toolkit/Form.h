@@ -46,6 +46,7 @@ class Form {
   // Stands before the operator until answered; timers tick on meanwhile.
   Answer MsgBox(const std::string& text, Buttons buttons = Buttons::kOk, const std::string& title = kStandardTitle);
   std::string InputBox(const std::string& prompt, const std::string& title);
+  std::string BrowseFolder(const std::string& title, const std::string& start);
 
   // Runs a handler as every tick and operator's event is run: a failure that nothing skipped ends the handler and
   // shows one message box, and the station goes on. Nothing happens once the form is unloaded.

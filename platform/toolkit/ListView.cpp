@@ -53,12 +53,9 @@ void ListView::Remove(int index) {
   Tell(ListChange::What::kRemoved, index);
 }
 
-void ListView::Assign(std::vector<ListRow> rows) {
+void ListView::Assign(std::vector<ListRow> rows, int selectedItem) {
   rows_ = std::move(rows);
-  selectedItem_ = 0;
-  for (int index = Count(); index >= 1 && selectedItem_ == 0; --index) {
-    if (Row(index).selected) selectedItem_ = index;
-  }
+  selectedItem_ = selectedItem >= 1 && selectedItem <= Count() && Row(selectedItem).selected ? selectedItem : 0;
   Tell(ListChange::What::kReset);
 }
 

@@ -44,8 +44,8 @@ class ListView : public Control {
   void Add(ListRow row) { Insert(Count() + 1, std::move(row)); }
   void Insert(int index, ListRow row);
   void Remove(int index);
-  // All rows at once; nothing is selected unless a row says so.
-  void Assign(std::vector<ListRow> rows);
+  // All rows at once. `selectedItem` is the selected item if there is such a row and it is selected.
+  void Assign(std::vector<ListRow> rows, int selectedItem = 0);
 
   // The row that has been selected last; 0 while there is none.
   int SelectedItem() const { return selectedItem_; }
@@ -64,6 +64,9 @@ class ListView : public Control {
   void ClickRow(int index);
   // The operator's keys or a rubber band select these rows; `current` is the selected item. No click.
   void SelectRows(const std::vector<int>& rows, int current);
+
+  // The image list that small icons come from; empty: none are shown.
+  Property<std::string> SmallIcons;
 
   Event<const ListChange&> Changed;
   Event<> Click;

@@ -34,10 +34,10 @@ class PictureBox : public Control {
 };
 
 // A text on a pane.
-class Caption : public Control {
+class PaneText : public Control {
  public:
   using Control::Control;
-  std::string_view Kind() const override { return "Caption"; }
+  std::string_view Kind() const override { return "PaneText"; }
 
   Property<std::string> Text;
   Property<Colour> ForeColor{kWhite};

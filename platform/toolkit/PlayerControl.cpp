@@ -24,7 +24,7 @@ PlayerControl::PlayerControl(Control& container, std::string name)
 }
 
 void PlayerControl::Start() {
-  player_ = Owner().Outside().media.NewPlayer(*this);
+  player_ = Owner().Outside().media.NewPlayer(Owner().Name() + "." + Name(), *this);
   const auto applyMute = [this] {
     if (player_) player_->SetMute(settings.mute);
   };

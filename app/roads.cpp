@@ -1,0 +1,23 @@
+#include "app/roads.h"
+
+#include "output/frmPlayer.h"
+#include "playlist/frmPlaylist.h"
+#include "settings/Station.h"
+
+void ConnectRoads(Station& station) {
+  Forms& forms = station.forms;
+
+  // frmPlayer -> frmPlaylist
+  forms.WhenCreated<frmPlayer>([&forms](frmPlayer& output) {
+    // An item has started: its place is recorded from now on.
+    output.ItemStarted.Connect([&forms] { forms.Get<frmPlaylist>().Timer4.Enabled = true; });
+    // An item is over: the next one, if they follow one another.
+    output.ItemOver.Connect([&forms] {
+      auto& playlist = forms.Get<frmPlaylist>();
+      if (playlist.chkOneAfterAnother.Ticked()) playlist.PlayNext();
+    });
+    output.ItemNearlyOver.Connect([&forms] { forms.Get<frmPlaylist>().PlayNext(); });
+    // The duration of the item is known: the slider takes its range.
+    output.MediaOpened.Connect([&forms, &output] { forms.Get<frmPlaylist>().TakeDuration(output); });
+  });
+}

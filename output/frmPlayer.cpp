@@ -1,0 +1,188 @@
+#include "output/frmPlayer.h"
+
+#include "platform/Windows.h"
+#include "platform/toolkit/Failures.h"
+#include "settings/Numbers.h"
+
+namespace {
+
+// The players' transport bars stand below the visible part of their panes.
+constexpr Twips kTransportBar = 900;
+constexpr Twips kOnlineTransportBar = 600;
+
+constexpr int kMediaEnded = static_cast<int>(PlayState::kMediaEnded);
+
+}  // namespace
+
+frmPlayer::frmPlayer(Station& station)
+    : Form(station.forms, "frmPlayer", Kind::kOnAir), station_(station), currentAd_(station.Shared<CurrentAd>()) {
+  Width = 15450;
+  Height = 11520;
+  PicVideoAd.Visible = false;
+  PicSide.Visible = false;
+  PicSide.Width = 3000;
+  picOnline.Visible = false;
+  picSize.Visible = false;
+  FlashLeft.Visible = false;
+  FlashRight.Visible = false;
+  PicAv.Width = 11055;
+  PicAv.Height = 6375;
+  picNext.Width = 4500;
+  picNext.Height = 900;
+  PlayerNext.Text = "Press Ctrl+M for main menu";
+  PlayerNext.Top = 450;
+  PlayerNext.Width = 4500;
+  PlayerNext.Height = 450;
+  lblUpNext.Text = "Up next:";
+  lblUpNext.Width = 4500;
+  lblUpNext.Height = 450;
+  lblChannelName.Width = 9000;
+  lblChannelName.Height = 450;
+  Player.stretchToFit = true;
+  PlayerOnline.stretchToFit = true;
+  PlayerOnline.settings.volume = 100;
+
+  Timer1.Tick.Connect([this] { Timer1_Tick(); });
+  Timer2.Tick.Connect([this] { Timer2_Tick(); });
+  Timer3.Tick.Connect([this] { Timer3_Tick(); });
+  Timer4.Tick.Connect([this] {
+    Load();
+    Timer4.Enabled = false;
+  });
+  TimerMedia.Tick.Connect(
+      [this] { SkippingFailures([this] { ItemOver.Raise(); }, [this] { TimerMedia.Enabled = false; }); });
+  TimerAdPlayer.Tick.Connect(
+      [this] { SkippingFailures([this] { VideoAdOver.Raise(); }, [this] { TimerAdPlayer.Enabled = false; }); });
+  Player.PlayStateChange.Connect([this] { Player_PlayStateChange(); });
+  Player.CurrentMediaChange.Connect([this] { MediaOpened.Raise(); });
+  AdPlayer.PlayStateChange.Connect([this] { AdPlayer_PlayStateChange(); });
+
+  MouseDown.Connect([this](MouseButton) { Window()->DragWindow([] {}); });
+  pic.MouseDown.Connect([this](MouseButton) { DragBand(); });
+  PicAd.MouseDown.Connect([this](MouseButton) { DragBand(); });
+  picNext.MouseDown.Connect([this](MouseButton) { Timer4.Enabled = true; });
+}
+
+// Timer4 runs it again two seconds after the window opened, when the position store has had its say about the size.
+// The store has the window back at the end, so what is recorded is never the corner that the first lines set.
+void frmPlayer::Load() {
+  win.Release();
+  Top = 0;
+  Left = 0;
+  Fill(PicMedia);
+  Fill(Player, kTransportBar);
+  PicAv.Top = (Height - PicAv.Height) / 2;
+  PicAv.Left = (Width - PicAv.Width) / 2;
+  PicAd.Left = 0;
+  PicAd.Width = Width;
+  Fill(PicVideoAd);
+  Fill(picOnline);
+  Fill(PlayerOnline, kOnlineTransportBar);
+  Fill(AdPlayer, kTransportBar);
+  picNext.Left = Width + picNext.Width;
+  picNext.Top = (Height - picNext.Height) / 2;
+  SetHeight();
+  win.RecordWindowPosTo = station_.dataFolder.Path("\\Window.ini");
+}
+
+void frmPlayer::Fill(Control& control, Twips below) {
+  control.Top = 0;
+  control.Left = 0;
+  control.Height = Height + below;
+  control.Width = Width;
+}
+
+void frmPlayer::MainPlay(const std::string& path) {
+  Player.URL = path;
+  ItemStarted.Raise();
+}
+
+void frmPlayer::SetHeight() {
+  Flash.Height = Val(currentAd_.CrawlerHeaderHeight);
+  FlashLeft.Width = Val(currentAd_.CrawlerSideWidth);
+  FlashRight.Width = Val(currentAd_.CrawlerSideWidth);
+  Flash.Left = 0;
+  Flash.Top = 0;
+  Flash.Width = Width;
+  pic.Top = Flash.Height.Get();
+  pic.Left = 0;
+  const Twips bandHeight = pic.Height + Flash.Height;
+  FlashLeft.Height = bandHeight;
+  FlashLeft.Left = 0;
+  FlashLeft.Top = 0;
+  FlashRight.Height = bandHeight;
+  FlashRight.Left = PicAd.Width - FlashRight.Width;
+  FlashRight.Top = 0;
+  PicAd.Height = bandHeight;
+  PicAd.Top = Height - PicAd.Height - Val(currentAd_.CrawlerAdTop);
+}
+
+void frmPlayer::ViewAd(const std::string& header, const std::string& scroll, const std::string& left,
+                       const std::string& right) {
+  // Only "jpg" in small letters is taken for a picture here; what any other header is, the band's control finds out.
+  const auto isJpg = [](const std::string& path) { return path.ends_with("jpg"); };
+  if (isJpg(header)) {
+    // The height of the scrolling picture, not of the header's own. Meant so: keep it; SetHeight sets it anew below.
+    SkippingFailures([&] { picSize.LoadPicture(header); }, [&] { Flash.Height = pic.Height.Get(); });
+  }
+  SkippingFailures([&] { Flash.Movie = header; }, [&] { pic.LoadPicture(scroll); });
+  for (const auto& [panel, path] : {std::pair(&FlashLeft, &left), std::pair(&FlashRight, &right)}) {
+    if (isJpg(*path)) {
+      SkippingFailures([&] { picSize.LoadPicture(*path); }, [&] { panel->Width = picSize.Width.Get(); });
+    }
+  }
+  LoadPanel(FlashLeft, left);
+  LoadPanel(FlashRight, right);
+  SetHeight();
+}
+
+void frmPlayer::LoadPanel(FlashBox& panel, const std::string& path) {
+  if (!path.empty()) SkippingFailures([&] { panel.Movie = path; });
+  panel.Visible = !path.empty();
+}
+
+void frmPlayer::SideAd() {
+  PicSide.Visible = true;
+  // The band is as wide as the form, so the column stands at the left edge, over the picture; nothing makes room.
+  PicSide.Left = Width - PicAd.Width;
+  PicSide.Top = 0;
+  PicSide.Height = Height - PicAd.Height;
+  FlashSideAd.Top = 0;
+  FlashSideAd.Left = 0;
+  FlashSideAd.Height = PicSide.Height.Get();
+  FlashSideAd.Width = PicSide.Width.Get();
+}
+
+void frmPlayer::Timer1_Tick() {
+  if (-pic.Width > pic.Left) {
+    CrawlerLeft.Raise();
+    return;
+  }
+  pic.Left = pic.Left - Val(currentAd_.CrawlerSpeed);
+}
+
+void frmPlayer::Timer2_Tick() {
+  const auto nearlyOver = [this] { return Player.currentMedia.duration() - 25 < Player.controls.currentPosition(); };
+  if (HeldOrFailed(nearlyOver)) ItemNearlyOver.Raise();
+}
+
+void frmPlayer::Timer3_Tick() {
+  slide_ += 30;
+  picNext.Left = Width + picNext.Width - slide_;
+  if (picNext.Left == Width - picNext.Width) Timer3.Enabled = false;
+}
+
+// The next item is never started from inside the player's notification: TimerMedia gives it a tick of its own, and the
+// channel its moment of empty output between two items.
+void frmPlayer::Player_PlayStateChange() {
+  if (Player.playState() == kMediaEnded) TimerMedia.Enabled = true;
+}
+
+void frmPlayer::AdPlayer_PlayStateChange() {
+  if (AdPlayer.playState() == kMediaEnded) TimerAdPlayer.Enabled = true;
+}
+
+// The strip can be pulled up and down by hand; it snaps back to the centre, and the next layout puts it in its place.
+void frmPlayer::DragBand() {
+  Window()->DragPane(PicAd, [this] { PicAd.Left = (Width - PicAd.Width) / 2; });
+}

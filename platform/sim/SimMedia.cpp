@@ -1,0 +1,151 @@
+#include "platform/sim/SimMedia.h"
+
+#include <algorithm>
+
+using std::chrono::nanoseconds;
+
+namespace {
+
+nanoseconds Nanoseconds(double seconds) { return nanoseconds(static_cast<std::int64_t>(seconds * 1e9)); }
+
+}  // namespace
+
+std::unique_ptr<MediaPlayer> SimMedia::NewPlayer(const std::string& name, MediaListener& listener) {
+  return std::make_unique<SimPlayer>(*this, name, listener);
+}
+
+SimPlayer* SimMedia::Find(const std::string& name) const {
+  const auto found = players_.find(name);
+  return found == players_.end() ? nullptr : found->second;
+}
+
+SimPlayer::SimPlayer(SimMedia& media, std::string name, MediaListener& listener)
+    : media_(media), name_(std::move(name)), listener_(listener) {
+  media_.players_[name_] = this;
+}
+
+SimPlayer::~SimPlayer() {
+  StopWaiting();
+  if (media_.Find(name_) == this) media_.players_.erase(name_);
+}
+
+bool SimPlayer::CanLoad() const {
+  return !media_.broken_.contains(url_) &&
+         (url_.find("://") != std::string::npos || media_.files_.Kind(url_) == FileKind::kRegular);
+}
+
+void SimPlayer::Open(const std::string& url) {
+  StopWaiting();
+  media_.trace_.Add(name_ + " open " + url);
+  url_ = url;
+  open_ = false;
+  position_ = 0;
+  since_ = media_.time_.Steady();
+  if (url.empty()) {
+    Enter(PlayState::kUndefined);
+  } else {
+    Enter(PlayState::kTransitioning);
+    if (CanLoad()) Wait(media_.openingTime, &SimPlayer::Opened);
+  }
+}
+
+void SimPlayer::Opened() {
+  open_ = true;
+  since_ = media_.time_.Steady();
+  listener_.MediaChanged();
+  // The listener may have opened something else.
+  if (!open_ || state_ != PlayState::kTransitioning) return;
+  WaitForEnd();
+  Enter(PlayState::kPlaying);
+}
+
+void SimPlayer::WaitForEnd() {
+  StopWaiting();
+  if (Duration() > 0) Wait(std::max(nanoseconds(1), Nanoseconds(Duration() - position_)), &SimPlayer::Ended);
+}
+
+void SimPlayer::Ended() {
+  position_ = 0;
+  Enter(PlayState::kMediaEnded);
+}
+
+void SimPlayer::Play() {
+  if (!open_ || state_ == PlayState::kPlaying) return;
+  since_ = media_.time_.Steady();
+  WaitForEnd();
+  Enter(PlayState::kPlaying);
+}
+
+void SimPlayer::Pause() {
+  if (state_ != PlayState::kPlaying) return;
+  position_ = Position();
+  StopWaiting();
+  Enter(PlayState::kPaused);
+}
+
+void SimPlayer::Stop() {
+  StopWaiting();
+  media_.trace_.Add(name_ + " stop");
+  position_ = 0;
+  Enter(PlayState::kStopped);
+}
+
+double SimPlayer::Position() const {
+  if (state_ != PlayState::kPlaying) return position_;
+  return position_ + std::chrono::duration<double>(media_.time_.Steady() - since_).count();
+}
+
+void SimPlayer::SetPosition(double seconds) {
+  media_.trace_.Add(name_ + " seek " + std::to_string(seconds));
+  if (url_.empty()) return;
+  position_ = std::max(0.0, seconds);
+  since_ = media_.time_.Steady();
+  if (state_ == PlayState::kPlaying) WaitForEnd();
+}
+
+double SimPlayer::Duration() const {
+  if (!open_) return 0;
+  const auto known = media_.durations_.find(url_);
+  return known == media_.durations_.end() ? 10 : known->second;
+}
+
+std::string SimPlayer::Status() const {
+  switch (state_) {
+    case PlayState::kStopped:
+      return "Stopped";
+    case PlayState::kPaused:
+      return "Paused";
+    case PlayState::kPlaying:
+      return "Playing";
+    case PlayState::kBuffering:
+      return "Buffering";
+    case PlayState::kMediaEnded:
+      return "Finished";
+    case PlayState::kTransitioning:
+      return "Connecting...";
+    default:
+      return "";
+  }
+}
+
+// Told as the real players tell it: from the message loop, never from inside the caller's own statement.
+void SimPlayer::Enter(PlayState state) {
+  state_ = state;
+  const std::string name = name_;
+  media_.time_.Post([this, &media = media_, name, state] {
+    if (media.Find(name) == this) listener_.PlayStateChanged(state);
+  });
+}
+
+void SimPlayer::Wait(nanoseconds duration, void (SimPlayer::*next)()) {
+  const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(duration);
+  waiting_ = media_.time_.Start(rounded, TickPhase::kFromStart, [this, next] {
+    StopWaiting();
+    (this->*next)();
+  });
+}
+
+void SimPlayer::StopWaiting() {
+  media_.time_.Cancel(waiting_);
+  waiting_ = 0;
+}

@@ -1,0 +1,37 @@
+#include "platform/sim/SimWindows.h"
+
+#include <utility>
+
+#include "platform/toolkit/Form.h"
+
+class SimWindow : public FormWindow {
+ public:
+  SimWindow(SimWindows& windows, Form& form) : windows_(windows), form_(form) {
+    visible_ = form.Visible.Changed.Subscribe([this] { Tell(form_.Visible ? "shown" : "hidden"); });
+    Tell("loaded");
+  }
+  ~SimWindow() override { Tell("unloaded"); }
+
+  void Focus(const Control& control) override { windows_.focus = form_.Name() + "." + control.Name(); }
+  void DragWindow(std::function<void()> done) override {
+    Tell("dragged");
+    windows_.dragDone_ = std::move(done);
+  }
+  void DragPane(Control& pane, std::function<void()> done) override {
+    Tell(pane.Name() + " dragged");
+    windows_.dragDone_ = std::move(done);
+  }
+
+ private:
+  void Tell(const std::string& what) { windows_.trace_.Add(form_.Name() + " " + what); }
+
+  SimWindows& windows_;
+  Form& form_;
+  Subscription visible_;
+};
+
+std::unique_ptr<FormWindow> SimWindows::Create(Form& form) { return std::make_unique<SimWindow>(*this, form); }
+
+void SimWindows::EndDrag() {
+  if (const auto done = std::exchange(dragDone_, nullptr)) done();
+}

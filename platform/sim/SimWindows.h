@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/Windows.h"
+#include "platform/sim/SimTrace.h"
+
+// Windows that nobody sees: they tell when they are shown, hidden and gone.
+class SimWindows : public Windows {
+ public:
+  explicit SimWindows(SimTrace& trace) : trace_(trace) {}
+
+  std::unique_ptr<FormWindow> Create(Form& form) override;
+  PixelSize ScreenSize() const override { return screenSize; }
+
+  // Lets go of the button of the drag that is under way.
+  void EndDrag();
+
+  PixelSize screenSize{1920, 1080};
+  // The control that was given the keyboard last, as "form.control".
+  std::string focus;
+
+ private:
+  friend class SimWindow;
+
+  SimTrace& trace_;
+  std::function<void()> dragDone_;
+};

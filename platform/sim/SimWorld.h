@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/World.h"
+#include "platform/sim/SimFiles.h"
+#include "platform/sim/SimMedia.h"
+#include "platform/sim/SimShell.h"
+#include "platform/sim/SimTime.h"
+#include "platform/sim/SimTrace.h"
+#include "platform/sim/SimWindows.h"
+
+// The whole virtual world, and the world as the core sees it.
+struct SimWorld {
+  SimTrace trace;
+  SimTime time;
+  SimFiles files;
+  SimMedia media{time, files, trace};
+  SimPictures pictures;
+  SimWindows windows{trace};
+  SimDialogs dialogs{trace};
+  SimDesktop desktop{trace};
+
+  World world{time, time, files, media, pictures, windows, dialogs, desktop};
+};

@@ -1,0 +1,68 @@
+// The walk over Settings.ini that brings the station back on air. Its order is part of the design: the output window
+// exists, sized and hidden, from the first step.
+#include "output/frmPlayer.h"
+#include "platform/Desktop.h"
+#include "platform/toolkit/Failures.h"
+#include "playlist/frmPlaylist.h"
+#include "settings/Numbers.h"
+#include "shell/frmMid.h"
+
+void frmMid::LoadSett() {
+  SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreOutput(); }, [this] { RestoreCrawler(); },
+                   [this] { RestoreLeftSideAd(); }, [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
+}
+
+bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
+  return station_.stores.SettingsIni.ReadValue(section, key, "") == "True";
+}
+
+void frmMid::RestoreMonitor() {
+  OnMonitor2 = ShowKeySays("Output", "Monitor2");
+  if (!OnMonitor2) station_.forms.Unload<frmPlayer>();
+  station_.forms.Get<frmPlayer>();
+}
+
+void frmMid::RestoreOutput() {
+  OutputShown = ShowKeySays("Output");
+  if (OutputShown) station_.forms.Get<frmPlayer>().Show();
+}
+
+void frmMid::RestoreCrawler() {
+  CrawlerShown = ShowKeySays("AdSettings");
+  auto& output = station_.forms.Get<frmPlayer>();
+  output.PicAd.Visible = CrawlerShown;
+  output.Timer1.Enabled = CrawlerShown;
+}
+
+void frmMid::RestoreLeftSideAd() {
+  LeftSideAdShown = ShowKeySays("LeftSideAd");
+  auto& output = station_.forms.Get<frmPlayer>();
+  output.PicSide.Visible = LeftSideAdShown;
+  if (LeftSideAdShown) {
+    output.SideAd();
+  } else {
+    output.Player.Width = output.Width.Get();
+    output.Player.Left = 0;
+  }
+}
+
+// Shown and hidden at once: that brings the form to life, and its load resumes play.
+void frmMid::RestorePlaylist() {
+  if (station_.stores.SettingsIni.ReadValue("Playlist", "LastPlay", "") != "1") return;
+  auto& playlist = station_.forms.Get<frmPlaylist>();
+  playlist.Show();
+  playlist.Hide();
+}
+
+// A value that is no number counts as if the test had held: on a first run the cursor and the taskbar are hidden, and
+// the control window is shown and at once hidden. Meant so.
+void frmMid::RestoreDesktop() {
+  const auto is = [this](const char* key, double number) {
+    return HeldOrFailed(
+        [&] { return StrictNumber(station_.stores.SettingsIni.ReadValue("Settings", key, "")) == number; });
+  };
+  if (is("ShowMouse", 0)) Outside().desktop.ShowCursor(false);
+  if (is("ShowTaskbar", 0)) Outside().desktop.SetTaskbarVisible(false);
+  if (is("StartUp", 1)) Show();
+  if (is("StartUp", 0)) Hide();
+}
