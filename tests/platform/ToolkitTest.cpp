@@ -1,0 +1,192 @@
+#include "platform/toolkit/Failures.h"
+#include "tests/StationTest.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A form whose timer does what the test says.
+class frmProbe : public Form {
+ public:
+  explicit frmProbe(Station& station) : Form(station.forms, "frmProbe", Kind::kOperator) {
+    ++alive;
+    Tick.Tick.Connect([this] { onTick(*this); });
+  }
+  ~frmProbe() override { --alive; }
+
+  Timer Tick{*this, "Tick", 1s, Timer::kDisabled};
+  CommandButton Button{*this, "Button"};
+  inline static int alive = 0;
+  std::function<void(frmProbe&)> onTick = [](frmProbe&) {};
+};
+
+}  // namespace
+
+class ToolkitTest : public StationTest {
+ protected:
+  frmProbe& Probe() { return station.forms.Get<frmProbe>(); }
+};
+
+TEST_F(ToolkitTest, AReferenceLoadsAFormOnceAndAnUnloadMakesTheNextOneFresh) {
+  frmProbe& first = Probe();
+  EXPECT_EQ(&Probe(), &first);
+  first.Caption = "used";
+  EXPECT_TRUE(station.forms.Unload<frmProbe>());
+  EXPECT_FALSE(station.forms.Loaded<frmProbe>());
+  EXPECT_EQ(frmProbe::alive, 0);
+  EXPECT_EQ(Probe().Caption.Get(), "");
+}
+
+TEST_F(ToolkitTest, AnUnloadOfAFormThatIsNotLoadedLoadsNothing) {
+  EXPECT_TRUE(station.forms.Unload<frmProbe>());
+  EXPECT_EQ(sim.trace.Take(), Names{});
+}
+
+TEST_F(ToolkitTest, AFormThatUnloadsItselfInItsOwnHandlerLivesUntilTheHandlerReturns) {
+  Probe().onTick = [&](frmProbe& form) {
+    station.forms.Unload<frmProbe>();
+    EXPECT_EQ(frmProbe::alive, 1);
+    form.Caption = "still here";
+  };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(frmProbe::alive, 0);
+}
+
+TEST_F(ToolkitTest, AFormUnloadedWhileItsDialogStandsLivesUntilTheDialogIsAnswered) {
+  sim.dialogs.whileStanding = [&] {
+    station.forms.Unload<frmProbe>();
+    Advance(1s);
+    EXPECT_EQ(frmProbe::alive, 1);
+  };
+  Probe().onTick = [](frmProbe& form) { form.MsgBox("?"); };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(frmProbe::alive, 0);
+}
+
+TEST_F(ToolkitTest, AnUnloadedFormTicksNoMore) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe&) { ++ticks; };
+  Probe().Tick.Enabled = true;
+  station.forms.Unload<frmProbe>();
+  Advance(10s);
+  EXPECT_EQ(ticks, 0);
+}
+
+TEST_F(ToolkitTest, EnablingAnEnabledTimerChangesNothing) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe&) { ++ticks; };
+  Probe().Tick.Enabled = true;
+  Advance(900ms);
+  Probe().Tick.Enabled = true;
+  Advance(100ms);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(ToolkitTest, TicksThatFellDueWhileAHandlerWasBusyDoNotPileUp) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe& form) {
+    if (++ticks > 1) return;
+    form.Tick.Enabled = false;
+    Advance(5s);
+    form.Tick.Enabled = true;
+  };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(ticks, 1);
+  Advance(1s);
+  EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(ToolkitTest, ATickRunsWhileAnEarlierOneOfItsOwnStandsInADialog) {
+  int ticks = 0;
+  sim.dialogs.whileStanding = [&] {
+    if (ticks == 1) Advance(2s);
+  };
+  Probe().onTick = [&](frmProbe& form) {
+    if (++ticks == 1) form.MsgBox("?");
+  };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(ToolkitTest, AFailureThatNothingSkipsShowsOneBoxAndTheStationGoesOn) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe&) {
+    ++ticks;
+    throw Failure("No such row.");
+  };
+  Probe().Tick.Enabled = true;
+  Advance(2s);
+  EXPECT_EQ(ticks, 2);
+  EXPECT_EQ(std::ranges::count(sim.trace.Lines(), "box \"No such row.\" \"Corvanta 6.0\""), 2);
+}
+
+TEST_F(ToolkitTest, AFailureThatRepeatsWhileItsBoxStandsShowsNoSecondBox) {
+  sim.dialogs.whileStanding = [&] { Advance(1h); };
+  Probe().onTick = [&](frmProbe& form) {
+    if (sim.time.Steady() > 3h) form.Tick.Enabled = false;
+    throw Failure("No such row.");
+  };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(std::ranges::count(sim.trace.Lines(), "box \"No such row.\" \"Corvanta 6.0\""), 1);
+}
+
+TEST_F(ToolkitTest, ATestThatFailsCountsAsHeld) {
+  EXPECT_TRUE(HeldOrFailed([]() -> bool { throw Failure(""); }));
+  EXPECT_FALSE(HeldOrFailed([] { return false; }));
+}
+
+TEST_F(ToolkitTest, AFailingStatementIsSkippedAndTheNextRuns) {
+  int reached = 0;
+  SkippingFailures([&] { ++reached; }, [] { throw Failure(""); }, [&] { ++reached; });
+  EXPECT_EQ(reached, 2);
+}
+
+TEST_F(ToolkitTest, ADisabledButtonDoesNothing) {
+  int clicks = 0;
+  Probe().Button.Click.Connect([&] { ++clicks; });
+  Probe().Button.Enabled = false;
+  Probe().Button.Press();
+  Probe().Button.Enabled = true;
+  Probe().Button.Press();
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ToolkitTest, SettingTheIndexOfAFileListRaisesTheClickAndAnUnknownIndexFails) {
+  Clip("a.mp4");
+  FileListBox& files = Playlists().FileList;
+  files.Path = "/clips";
+  int clicks = 0;
+  files.Click.Connect([&] { ++clicks; });
+  files.ListIndex = 0;
+  EXPECT_EQ(clicks, 1);
+  EXPECT_THROW(files.ListIndex = 1, Failure);
+  EXPECT_EQ(files.ListIndex.Get(), 0);
+  files.Refresh();
+  EXPECT_EQ(files.ListIndex.Get(), -1);
+  EXPECT_EQ(files.FileName(), "");
+}
+
+TEST_F(ToolkitTest, ARowIsFoundByItsFirstWordsInEitherCase) {
+  ListView& list = Playlists().ListPlay;
+  for (const char* text : {"07:00:00 AMX", "07:00:00 AM late", "07:00:00 AM"}) {
+    list.Add({.text = text, .subItems = {}, .tag = "", .key = ""});
+  }
+  EXPECT_EQ(list.FindItem("07:00:00 am"), 2);
+  EXPECT_EQ(list.FindItem("07:00:00 PM"), 0);
+}
+
+TEST_F(ToolkitTest, ATickOfTheWallSecondComesJustAfterItAndStaysThereWhenTheClockSteps) {
+  std::vector<int> milliseconds;
+  const auto id = sim.time.Start(1s, TickPhase::kWallSecond, [&] { milliseconds.push_back(sim.time.Now().millisecond); });
+  Advance(2300ms);
+  sim.time.StepWall(-3600s - 400ms);
+  Advance(3s);
+  sim.time.Cancel(id);
+  for (const int at : milliseconds) EXPECT_LT(at, 500);
+  for (std::size_t i = milliseconds.size() - 2; i < milliseconds.size(); ++i) EXPECT_LT(milliseconds[i], 10);
+}

@@ -1,0 +1,179 @@
+#include "tests/StationTest.h"
+
+using namespace std::chrono_literals;
+
+class StartUpTest : public StationTest {
+ protected:
+  // Switches the station on and waits until the control window has restored it.
+  void Start() {
+    station.forms.Get<frmLoad>().Show();
+    Advance(2s);
+  }
+};
+
+TEST_F(StartUpTest, TheSplashStandsTwoSecondsInTheMiddleOfTheScreen) {
+  auto& splash = station.forms.Get<frmLoad>();
+  splash.Show();
+  EXPECT_EQ(splash.Left + splash.Width / 2, 1920 * 15 / 2);
+  EXPECT_EQ(splash.Top + splash.Height / 2, 1080 * 15 / 2);
+  Advance(1999ms);
+  EXPECT_TRUE(station.forms.Loaded<frmLoad>());
+  EXPECT_FALSE(station.forms.Loaded<frmMid>());
+  Advance(1ms);
+  EXPECT_FALSE(station.forms.Loaded<frmLoad>());
+  EXPECT_TRUE(station.forms.Loaded<frmMid>());
+}
+
+TEST_F(StartUpTest, TheSplashGoesOnlyWhenEverythingIsRestored) {
+  Set("Output", "Show", "True");
+  Start();
+  const auto lines = sim.trace.Take();
+  EXPECT_EQ(lines.back(), "frmLoad unloaded");
+  EXPECT_LT(std::ranges::find(lines, "frmPlayer shown"), std::ranges::find(lines, "frmLoad unloaded"));
+}
+
+TEST_F(StartUpTest, TheSplashsButtonEndsTheProcessWithNothingRestored) {
+  station.forms.Get<frmLoad>().Command1.Press();
+  EXPECT_TRUE(sim.desktop.ended);
+  EXPECT_FALSE(station.forms.Loaded<frmMid>());
+}
+
+TEST_F(StartUpTest, AFirstRunWalksInItsOrderAndHidesCursorTaskbarAndControlWindow) {
+  Start();
+  EXPECT_EQ(sim.trace.Take(),
+            (Names{"frmLoad loaded", "frmLoad shown", "frmMid loaded", "frmPlayer loaded", "cursor down",
+                   "taskbar hidden", "frmMid shown", "frmMid hidden", "run at log-on \"My App\" /station/corvanta",
+                   "hot key 0 Ctrl+M", "hot key 1 Ctrl+X", "hot key 2 Ctrl+T", "hot key 3 Ctrl+O", "screen saver 0",
+                   "frmLoad unloaded"}));
+}
+
+TEST_F(StartUpTest, AStationThatWasOnTheAirComesBackWithNobodyAtTheKeyboard) {
+  for (const char* section : {"Output", "AdSettings", "LeftSideAd"}) Set(section, "Show", "True");
+  Set("Playlist", "LastPlay", "1");
+  for (const char* key : {"ShowMouse", "ShowTaskbar", "StartUp"}) Set("Settings", key, "1");
+  Start();
+  EXPECT_TRUE(Output().Visible);
+  EXPECT_TRUE(Output().PicAd.Visible);
+  EXPECT_TRUE(Output().Timer1.Enabled);
+  EXPECT_TRUE(Output().PicSide.Visible);
+  EXPECT_TRUE(station.forms.Loaded<frmPlaylist>());
+  EXPECT_FALSE(Playlists().Visible);
+  EXPECT_TRUE(Control().Visible);
+  EXPECT_TRUE(sim.desktop.taskbarVisible);
+  EXPECT_EQ(sim.desktop.cursorCount, 0);
+  EXPECT_TRUE(Control().OutputShown && Control().CrawlerShown && Control().LeftSideAdShown);
+}
+
+TEST_F(StartUpTest, OnlyTheExactWordTrueTurnsAFeatureOn) {
+  Set("Output", "Show", "true");
+  Set("AdSettings", "Show", "1");
+  Start();
+  EXPECT_FALSE(Output().Visible);
+  EXPECT_FALSE(Output().PicAd.Visible);
+  EXPECT_FALSE(Output().Timer1.Enabled);
+}
+
+TEST_F(StartUpTest, WithoutTheSideAdThePlayerHasTheFullWidth) {
+  Output().Player.Left = 100;
+  Output().Player.Width = 100;
+  Start();
+  EXPECT_EQ(Output().Player.Left, 0);
+  EXPECT_EQ(Output().Player.Width, Output().Width);
+}
+
+TEST_F(StartUpTest, ThePlaylistManagerIsLoadedOnlyWithLastPlay) {
+  Start();
+  EXPECT_FALSE(station.forms.Loaded<frmPlaylist>());
+}
+
+TEST_F(StartUpTest, AnOutputWindowOfBeforeIsMadeAnewWhenTheOutputIsNotOnMonitorTwo) {
+  Output().PicAd.Left = 77;
+  Start();
+  EXPECT_EQ(Output().PicAd.Left, 0);
+  EXPECT_TRUE(station.forms.Loaded<frmPlayer>());
+}
+
+TEST_F(StartUpTest, WithStartUpZeroOnlyCtrlMAndTheTrayLeadToTheControlWindow) {
+  Set("Settings", "StartUp", "0");
+  Start();
+  EXPECT_FALSE(Control().Visible);
+  sim.desktop.PressCtrl('M');
+  EXPECT_TRUE(Control().Visible);
+  Control().Hide();
+  Control().Tray.DoubleClick();
+  EXPECT_TRUE(Control().Visible);
+}
+
+TEST_F(StartUpTest, AnotherNumberInStartUpNeitherShowsNorHides) {
+  Set("Settings", "StartUp", "2");
+  Start();
+  const auto lines = sim.trace.Take();
+  EXPECT_EQ(std::ranges::count(lines, "frmMid shown"), 0);
+}
+
+TEST_F(StartUpTest, ANumberWrittenOtherwiseIsTheSameNumber) {
+  Set("Settings", "ShowMouse", " 0.0 ");
+  Set("Settings", "ShowTaskbar", "1");
+  Start();
+  EXPECT_EQ(sim.desktop.cursorCount, -1);
+  EXPECT_TRUE(sim.desktop.taskbarVisible);
+}
+
+TEST_F(StartUpTest, TheTrayTipKeepsItsOlderWording) {
+  Start();
+  EXPECT_EQ(Control().Tray.TipText.Get(), "Corvanta 5.0");
+  EXPECT_EQ(Control().Caption.Get(), "Corvanta 6.0");
+}
+
+TEST_F(StartUpTest, CtrlTBringsTheTaskbarBackForGood) {
+  Start();
+  sim.desktop.PressCtrl('T');
+  EXPECT_TRUE(sim.desktop.taskbarVisible);
+  EXPECT_EQ(Setting("Settings", "ShowTaskbar"), "1");
+}
+
+TEST_F(StartUpTest, CtrlOBringsTheCursorBackForGood) {
+  Start();
+  sim.desktop.PressCtrl('O');
+  EXPECT_EQ(sim.desktop.cursorCount, 0);
+  EXPECT_EQ(Setting("Settings", "ShowMouse"), "1");
+}
+
+TEST_F(StartUpTest, TheCloseBoxHidesTheControlWindowAndPlayGoesOn) {
+  Playlist("Day.plt", {Clip("a.mp4", 2), Clip("b.mp4")});
+  Set("Playlist", "OneAfterAnother", "1");
+  Set("Settings", "StartUp", "1");
+  Start();
+  Control().ThemedButton5.Press();
+  Control().Tray.Visible = false;
+  Control().Close();
+  EXPECT_FALSE(Control().Visible);
+  EXPECT_TRUE(Control().Tray.Visible);
+  Advance(3s);
+  EXPECT_EQ(Aired(), (Names{"a.mp4", "b.mp4"}));
+}
+
+TEST_F(StartUpTest, NoInTheExitBoxChangesNothingAndTheTaskbarStays) {
+  Start();
+  sim.trace.Take();
+  sim.desktop.PressCtrl('X');
+  EXPECT_EQ(sim.trace.Take(), Names{"box \"Are You Sure you wnat to EXIT from Corvanta 6.0?\" \"Exit\""});
+  EXPECT_FALSE(sim.desktop.taskbarVisible);
+}
+
+TEST_F(StartUpTest, YesInTheExitBoxBringsTheTaskbarBackAndUnloadsNothing) {
+  Start();
+  sim.trace.Take();
+  sim.dialogs.answers = {Answer::kYes};
+  sim.desktop.PressCtrl('X');
+  EXPECT_EQ(sim.trace.Take(), (Names{"box \"Are You Sure you wnat to EXIT from Corvanta 6.0?\" \"Exit\"",
+                                     "taskbar shown", "process ends"}));
+}
+
+TEST_F(StartUpTest, ASettingsFileThatCannotBeReadIsAFirstRun) {
+  Set("Output", "Show", "True");
+  sim.files.SetFault("/station/Settings.ini", FileFault::kUnreadable);
+  Start();
+  EXPECT_FALSE(Output().Visible);
+  EXPECT_TRUE(station.forms.Loaded<frmMid>());
+}
