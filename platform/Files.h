@@ -1,33 +1,53 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-// What tells that a file is still the one that was read last.
-struct FileStamp {
-  std::uint64_t device = 0;
-  std::uint64_t inode = 0;
-  std::uint64_t size = 0;
-  std::int64_t changedNanoseconds = 0;
-
-  bool operator==(const FileStamp&) const = default;
-};
-
 enum class FileKind { kAbsent, kRegular, kFolder, kOther };
 
-// The disk. Paths are UTF-8 with the platform's separator; a part of a path whose exact name is missing is looked up
-// without regard to case. No call throws; a failure is the return value.
+// Tells whether what stands at a path is still what was read together with this watch.
+class FileWatch {
+ public:
+  virtual ~FileWatch() = default;
+  // True only when nobody, this process included, can have changed, replaced or removed the file since. May say false
+  // of an unchanged file; then read it again. Costs well under a microsecond.
+  virtual bool Unchanged() = 0;
+};
+
+enum class ReadResult {
+  kRead,     // `content` holds the whole file
+  kAbsent,   // nothing stands at the path
+  kRefused,  // something does, but it is no regular file, or too large, or cannot be read
+};
+
+struct FileReading {
+  ReadResult result = ReadResult::kAbsent;
+  std::string content;
+  std::unique_ptr<FileWatch> watch;  // null when nothing can be said: read again each time
+};
+
+// The disk. Paths are UTF-8 with the separator "/"; a part of a path whose exact name is missing is looked up without
+// regard to case. No call throws; a failure is the return value.
 class Files {
  public:
+  static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
+
   virtual ~Files() = default;
 
   virtual FileKind Kind(const std::string& path) const = 0;
-  // The stamp of a regular file; nothing for all else.
-  virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
+
+  // Reads the whole of a regular file of at most `maxBytes` and starts to watch it.
+  virtual FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const = 0;
   // The whole of a regular file; nothing when it is absent, unreadable, or no regular file.
-  virtual std::optional<std::string> Read(const std::string& path) const = 0;
+  std::optional<std::string> Read(const std::string& path) const {
+    FileReading reading = ReadWatched(path, kNoLimit);
+    if (reading.result != ReadResult::kRead) return std::nullopt;
+    return std::move(reading.content);
+  }
 
   // Puts `content` in the place of the file in one step: a reader, a crash or a full disk sees the old file or the new
   // one, whole. The step is done when the call returns; flushing to the medium follows within a second elsewhere, in an
@@ -41,6 +61,6 @@ class Files {
   // Makes a folder and those above it; true when it is there.
   virtual bool CreateFolder(const std::string& path) = 0;
   // Names in a folder, files or folders alike as `kind` asks, sorted without regard to case, then by bytes; empty when
-  // it cannot be read.
+  // it cannot be read. What this program keeps there for its own safety is left out.
   virtual std::vector<std::string> List(const std::string& folder, FileKind kind) const = 0;
 };

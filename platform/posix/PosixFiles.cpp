@@ -1,0 +1,173 @@
+#include "platform/posix/PosixFiles.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+
+#include "platform/CaseFold.h"
+#include "platform/posix/FileHandle.h"
+#include "platform/posix/Flusher.h"
+#include "platform/posix/PosixWatch.h"
+#include "platform/posix/ResolvePath.h"
+
+namespace {
+
+// Ends the names of files that are being written. They begin with a dot and are in no list.
+constexpr std::string_view kUnfinished = ".unfinished~";
+
+FileKind KindOf(const struct stat& status) {
+  if (S_ISREG(status.st_mode)) return FileKind::kRegular;
+  return S_ISDIR(status.st_mode) ? FileKind::kFolder : FileKind::kOther;
+}
+
+// Opens without waiting: a pipe that somebody left in a file's place must not stop the station.
+FileHandle OpenForReading(const std::string& path) {
+  return FileHandle(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+}
+
+bool ReadAll(int descriptor, std::uint64_t size, std::uint64_t maxBytes, std::string& content) {
+  // One byte more than told, so that a file that grows meanwhile is seen to.
+  content.resize(size + 1);
+  std::size_t filled = 0;
+  for (;;) {
+    const ssize_t got = read(descriptor, content.data() + filled, content.size() - filled);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return false;
+    if (got == 0) break;
+    filled += static_cast<std::size_t>(got);
+    if (filled > maxBytes) return false;
+    if (filled == content.size()) content.resize(content.size() * 2);
+  }
+  content.resize(filled);
+  return true;
+}
+
+bool WriteAll(int descriptor, const std::string& content) {
+  for (std::size_t done = 0; done < content.size();) {
+    const ssize_t wrote = write(descriptor, content.data() + done, content.size() - done);
+    if (wrote < 0 && errno == EINTR) continue;
+    if (wrote <= 0) return false;
+    done += static_cast<std::size_t>(wrote);
+  }
+  return true;
+}
+
+// A link stays a link: what is replaced is the file it leads to.
+std::string BehindLinks(const std::string& path) {
+  const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), free);
+  return real == nullptr ? path : real.get();
+}
+
+std::string UnfinishedName(const std::string& path) {
+  static std::atomic<std::uint64_t> count = 0;
+  const std::size_t name = path.rfind('/') + 1;
+  return path.substr(0, name) + "." + path.substr(name) + "." + std::to_string(getpid()) + "-" +
+         std::to_string(count++) + std::string(kUnfinished);
+}
+
+bool RemoveTreeAt(int parent, const char* name) {
+  FileHandle folder(openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!folder.IsOpen()) return unlinkat(parent, name, 0) == 0;
+  const int listed = dup(folder.Get());
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(listed), closedir);
+  if (entries == nullptr) return false;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string_view child = entry->d_name;
+    if (child != "." && child != "..") RemoveTreeAt(folder.Get(), entry->d_name);
+  }
+  return unlinkat(parent, name, AT_REMOVEDIR) == 0;
+}
+
+}  // namespace
+
+PosixFiles::PosixFiles() : flusher_(std::make_unique<Flusher>()) {}
+
+PosixFiles::~PosixFiles() = default;
+
+FileKind PosixFiles::Kind(const std::string& path) const {
+  struct stat status;
+  const bool exists = stat(path.c_str(), &status) == 0 || stat(ResolvePath(path).c_str(), &status) == 0;
+  return exists ? KindOf(status) : FileKind::kAbsent;
+}
+
+FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBytes) const {
+  FileHandle file = OpenForReading(path);
+  if (!file.IsOpen() && errno == ENOENT) file = OpenForReading(ResolvePath(path));
+  FileReading reading;
+  if (!file.IsOpen()) {
+    reading.result = errno == ENOENT || errno == ENOTDIR ? ReadResult::kAbsent : ReadResult::kRefused;
+    return reading;
+  }
+  reading.result = ReadResult::kRefused;
+  std::unique_ptr<PosixWatch> watch = PosixWatch::Start(path, file.Get());
+  if (watch == nullptr || watch->Size() > maxBytes) return reading;
+  if (!ReadAll(file.Get(), watch->Size(), maxBytes, reading.content)) {
+    reading.content.clear();
+    return reading;
+  }
+  reading.result = ReadResult::kRead;
+  watch->Keep(std::move(file));
+  reading.watch = std::move(watch);
+  return reading;
+}
+
+bool PosixFiles::Replace(const std::string& path, const std::string& content) {
+  const std::string target = BehindLinks(ResolvePath(path));
+  struct stat status;
+  const bool exists = stat(target.c_str(), &status) == 0;
+  if (exists && (!S_ISREG(status.st_mode) || access(target.c_str(), W_OK) != 0)) return false;
+
+  const std::string unfinished = UnfinishedName(target);
+  FileHandle file(open(unfinished.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (!file.IsOpen()) return false;
+  if (exists) fchmod(file.Get(), status.st_mode & 07777);
+  const bool written = WriteAll(file.Get(), content) && file.Close();
+  if (!written || rename(unfinished.c_str(), target.c_str()) != 0) {
+    unlink(unfinished.c_str());
+    return false;
+  }
+  flusher_->Add(target);
+  return true;
+}
+
+bool PosixFiles::Remove(const std::string& path) {
+  const std::string target = ResolvePath(path);
+  return unlink(target.c_str()) == 0 || errno == ENOENT;
+}
+
+bool PosixFiles::RemoveTree(const std::string& path) {
+  const std::string target = ResolvePath(path);
+  struct stat status;
+  if (lstat(target.c_str(), &status) != 0) return errno == ENOENT;
+  return S_ISDIR(status.st_mode) && RemoveTreeAt(AT_FDCWD, target.c_str());
+}
+
+bool PosixFiles::CreateFolder(const std::string& path) {
+  const std::string target = ResolvePath(path);
+  for (std::size_t at = target.find('/', 1); at != std::string::npos; at = target.find('/', at + 1)) {
+    mkdir(target.substr(0, at).c_str(), 0777);
+  }
+  mkdir(target.c_str(), 0777);
+  return Kind(target) == FileKind::kFolder;
+}
+
+std::vector<std::string> PosixFiles::List(const std::string& folder, FileKind kind) const {
+  std::vector<std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(ResolvePath(folder).c_str()), closedir);
+  if (entries == nullptr) return names;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string_view name = entry->d_name;
+    if (name == "." || name == ".." || (name.starts_with('.') && name.ends_with('~'))) continue;
+    struct stat status;
+    if (fstatat(dirfd(entries.get()), entry->d_name, &status, 0) != 0) continue;
+    if (KindOf(status) == kind) names.emplace_back(name);
+  }
+  std::sort(names.begin(), names.end(), LessIgnoringCase);
+  return names;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Files.h"
+
+// The real disk. One thread of its own, "flush", brings what was written to the medium; the destructor waits for it.
+class PosixFiles : public Files {
+ public:
+  PosixFiles();
+  ~PosixFiles() override;
+
+  FileKind Kind(const std::string& path) const override;
+  FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const override;
+  bool Replace(const std::string& path, const std::string& content) override;
+  bool Remove(const std::string& path) override;
+  bool RemoveTree(const std::string& path) override;
+  bool CreateFolder(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder, FileKind kind) const override;
+
+ private:
+  class Flusher;
+  std::unique_ptr<Flusher> flusher_;
+};

@@ -1,0 +1,180 @@
+#include "platform/sim/SimFiles.h"
+
+#include <algorithm>
+
+#include "platform/CaseFold.h"
+
+// A file or a folder. Its version tells a watch that the content changed, moved away, or may be shadowed now.
+struct SimFiles::Entry {
+  bool isFolder = false;
+  std::string content;
+  std::shared_ptr<std::uint64_t> version = std::make_shared<std::uint64_t>(0);
+  std::map<std::string, std::unique_ptr<Entry>, std::less<>> children;
+
+  ~Entry() { ++*version; }
+
+  // The child of that exact name, or else the first without regard to case.
+  Entry* Child(std::string_view name) const {
+    const auto exact = children.find(name);
+    if (exact != children.end()) return exact->second.get();
+    for (const auto& [other, entry] : children) {
+      if (EqualIgnoringCase(other, name)) return entry.get();
+    }
+    return nullptr;
+  }
+};
+
+namespace {
+
+class SimWatch : public FileWatch {
+ public:
+  explicit SimWatch(std::shared_ptr<std::uint64_t> version) : version_(std::move(version)), read_(*version_) {}
+  bool Unchanged() override { return *version_ == read_; }
+
+ private:
+  std::shared_ptr<std::uint64_t> version_;
+  std::uint64_t read_;
+};
+
+// Takes the first part off a path; empty at its end.
+std::string_view TakePart(std::string_view& path) {
+  while (path.starts_with('/')) path.remove_prefix(1);
+  const std::string_view part = path.substr(0, path.find('/'));
+  path.remove_prefix(part.size());
+  return part;
+}
+
+}  // namespace
+
+SimFiles::SimFiles() : root_(std::make_unique<Entry>()) { root_->isFolder = true; }
+
+SimFiles::~SimFiles() = default;
+
+SimFiles::Entry* SimFiles::Find(std::string_view path) const {
+  if (path.empty()) return nullptr;
+  Entry* entry = root_.get();
+  for (std::string_view part = TakePart(path); entry != nullptr && !part.empty(); part = TakePart(path)) {
+    entry = entry->isFolder ? entry->Child(part) : nullptr;
+  }
+  return entry;
+}
+
+SimFiles::Entry* SimFiles::FindFolderOf(std::string_view path, std::string_view& name) const {
+  const std::size_t slash = path.rfind('/');
+  name = slash == std::string_view::npos ? path : path.substr(slash + 1);
+  Entry* folder = slash == std::string_view::npos || slash == 0 ? root_.get() : Find(path.substr(0, slash));
+  return folder != nullptr && folder->isFolder && !name.empty() ? folder : nullptr;
+}
+
+FileFault SimFiles::FaultOf(const std::string& path) const {
+  if (faults_.empty()) return FileFault::kNone;
+  const auto fault = faults_.find(FoldCase(path));
+  return fault == faults_.end() ? FileFault::kNone : fault->second;
+}
+
+FileKind SimFiles::Kind(const std::string& path) const {
+  const Entry* entry = Find(path);
+  if (entry == nullptr || FaultOf(path) == FileFault::kMissing) return FileKind::kAbsent;
+  return entry->isFolder ? FileKind::kFolder : FileKind::kRegular;
+}
+
+FileReading SimFiles::ReadWatched(const std::string& path, std::uint64_t maxBytes) const {
+  const Entry* entry = Find(path);
+  const FileFault fault = FaultOf(path);
+  if (entry == nullptr || fault == FileFault::kMissing) return {ReadResult::kAbsent, {}, nullptr};
+  const bool isRefused = entry->isFolder || fault == FileFault::kUnreadable || entry->content.size() > maxBytes;
+  if (isRefused) return {ReadResult::kRefused, {}, nullptr};
+  return {ReadResult::kRead, entry->content, std::make_unique<SimWatch>(entry->version)};
+}
+
+bool SimFiles::Replace(const std::string& path, const std::string& content) {
+  const FileFault fault = FaultOf(path);
+  if (full_ || fault == FileFault::kWriteRefused || !Write(path, content)) return false;
+  if (fault == FileFault::kMissing) SetFault(path, FileFault::kNone);
+  return true;
+}
+
+bool SimFiles::Write(const std::string& path, const std::string& content) {
+  std::string_view name;
+  Entry* folder = FindFolderOf(path, name);
+  if (folder == nullptr) return false;
+  Entry* entry = folder->Child(name);
+  if (entry == nullptr) {
+    auto made = std::make_unique<Entry>();
+    entry = made.get();
+    folder->children.emplace(name, std::move(made));
+  }
+  if (entry->isFolder) return false;
+  entry->content = content;
+  ++*entry->version;
+  return true;
+}
+
+bool SimFiles::Remove(const std::string& path) {
+  if (Kind(path) == FileKind::kAbsent) return true;
+  if (Kind(path) == FileKind::kFolder || FaultOf(path) == FileFault::kWriteRefused) return false;
+  std::string_view name;
+  Entry* folder = FindFolderOf(path, name);
+  const Entry* entry = folder->Child(name);
+  std::erase_if(folder->children, [entry](const auto& child) { return child.second.get() == entry; });
+  return true;
+}
+
+bool SimFiles::RemoveTree(const std::string& path) {
+  if (Kind(path) == FileKind::kAbsent) return true;
+  if (Kind(path) != FileKind::kFolder || FaultOf(path) == FileFault::kWriteRefused) return false;
+  std::string trimmed = path;
+  while (trimmed.ends_with('/')) trimmed.pop_back();
+  std::string_view name;
+  Entry* folder = FindFolderOf(trimmed, name);
+  if (folder == nullptr) return false;
+  const Entry* entry = folder->Child(name);
+  std::erase_if(folder->children, [entry](const auto& child) { return child.second.get() == entry; });
+  return true;
+}
+
+bool SimFiles::CreateFolder(const std::string& path) {
+  Entry* folder = root_.get();
+  std::string_view rest = path;
+  for (std::string_view part = TakePart(rest); !part.empty(); part = TakePart(rest)) {
+    Entry* child = folder->Child(part);
+    if (child == nullptr) {
+      if (full_) return false;
+      auto made = std::make_unique<Entry>();
+      made->isFolder = true;
+      child = made.get();
+      folder->children.emplace(part, std::move(made));
+    }
+    if (!child->isFolder) return false;
+    folder = child;
+  }
+  return true;
+}
+
+std::vector<std::string> SimFiles::List(const std::string& folder, FileKind kind) const {
+  std::vector<std::string> names;
+  const Entry* entry = Find(folder);
+  if (entry == nullptr || !entry->isFolder || FaultOf(folder) != FileFault::kNone) return names;
+  for (const auto& [name, child] : entry->children) {
+    const FileKind childKind = child->isFolder ? FileKind::kFolder : FileKind::kRegular;
+    if (childKind == kind && FaultOf(folder + "/" + name) != FileFault::kMissing) names.push_back(name);
+  }
+  std::sort(names.begin(), names.end(), LessIgnoringCase);
+  return names;
+}
+
+void SimFiles::Put(const std::string& path, const std::string& content) {
+  const bool wasFull = full_;
+  full_ = false;
+  const std::size_t slash = path.rfind('/');
+  if (slash != std::string::npos) CreateFolder(path.substr(0, slash));
+  Write(path, content);
+  full_ = wasFull;
+}
+
+void SimFiles::SetFault(const std::string& path, FileFault fault) {
+  faults_[FoldCase(path)] = fault;
+  if (fault == FileFault::kNone) faults_.erase(FoldCase(path));
+  const Entry* entry = Find(path);
+  if (entry != nullptr) ++*entry->version;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/Files.h"
+
+// What is wrong with one path of the virtual disk.
+enum class FileFault {
+  kNone,
+  kMissing,       // as if nothing stood there; a write brings it back
+  kUnreadable,    // it is there, but cannot be read
+  kWriteRefused,  // it can be neither replaced nor removed
+};
+
+// A disk in memory, with faults on demand. It begins with the root folder alone.
+class SimFiles : public Files {
+ public:
+  SimFiles();
+  ~SimFiles() override;
+
+  FileKind Kind(const std::string& path) const override;
+  FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const override;
+  bool Replace(const std::string& path, const std::string& content) override;
+  bool Remove(const std::string& path) override;
+  bool RemoveTree(const std::string& path) override;
+  bool CreateFolder(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder, FileKind kind) const override;
+
+  // Puts a file on the disk past all faults, with the folders above it, as somebody else would.
+  void Put(const std::string& path, const std::string& content);
+  // Sets the fault of a path, which need not exist; it stays until it is set to kNone.
+  void SetFault(const std::string& path, FileFault fault);
+  // While the disk is full no file can be replaced and no folder made; all else works.
+  void SetDiskFull(bool full) { full_ = full; }
+
+ private:
+  struct Entry;
+
+  Entry* Find(std::string_view path) const;
+  Entry* FindFolderOf(std::string_view path, std::string_view& name) const;
+  FileFault FaultOf(const std::string& path) const;
+  bool Write(const std::string& path, const std::string& content);
+
+  std::unique_ptr<Entry> root_;
+  std::map<std::string, FileFault> faults_;  // by folded path
+  bool full_ = false;
+};

@@ -1,0 +1,96 @@
+#include "settings/Helpers.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/CaseFold.h"
+#include "settings/DataFolder.h"
+#include "settings/IniText.h"
+
+namespace {
+
+// Spreads the bits of a moment over the whole word, so that moments a second apart give unlike numbers.
+std::uint64_t Scatter(std::uint64_t value) {
+  value += 0x9E3779B97F4A7C15u;
+  value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9u;
+  value = (value ^ (value >> 27)) * 0x94D049BB133111EBu;
+  return value ^ (value >> 31);
+}
+
+std::uint64_t Seed(const Clock& clock) {
+  const DateTime now = clock.Now();
+  const int inDay = ((now.hour * 60 + now.minute) * 60 + now.second) * 1000 + now.millisecond;
+  const auto steady = static_cast<std::uint64_t>(clock.Steady().count());
+  return Scatter(Scatter(static_cast<std::uint64_t>(inDay)) ^ steady);
+}
+
+bool MatchesFolded(std::string_view name, std::string_view pattern) {
+  std::size_t at = 0;
+  std::size_t inPattern = 0;
+  std::size_t afterStar = std::string_view::npos;
+  std::size_t retry = 0;
+  while (at < name.size()) {
+    if (inPattern < pattern.size() && pattern[inPattern] == '*') {
+      afterStar = ++inPattern;
+      retry = at;
+    } else if (inPattern < pattern.size() && (pattern[inPattern] == '?' || pattern[inPattern] == name[at])) {
+      const bool anySign = pattern[inPattern] == '?';
+      ++inPattern;
+      ++at;
+      // One "?" takes a whole sign, however many bytes it has.
+      while (anySign && at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80) ++at;
+    } else if (afterStar != std::string_view::npos) {
+      inPattern = afterStar;
+      at = ++retry;
+    } else {
+      return false;
+    }
+  }
+  return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
+}
+
+bool AnyNameMatches(const Files& files, const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(slash, 1));
+  const std::string pattern = FileNameOfPath(path);
+  for (const FileKind kind : {FileKind::kRegular, FileKind::kFolder}) {
+    const std::vector<std::string> names = files.List(folder, kind);
+    const bool matches =
+        std::any_of(names.begin(), names.end(), [&](const auto& name) { return MatchesPattern(name, pattern); });
+    if (matches) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void CreateEmptyFile(Files& files, std::string_view path) { files.Replace(WithPlatformSeparators(path), ""); }
+
+bool DeleteFolderTree(Files& files, std::string_view path) {
+  std::string folder = WithPlatformSeparators(path);
+  if (folder.ends_with('/')) folder.pop_back();
+  return files.Kind(folder) == FileKind::kFolder && files.RemoveTree(folder);
+}
+
+bool FileExists(const Files& files, std::string_view path) {
+  if (path.empty()) return false;
+  const std::string mapped = WithPlatformSeparators(path);
+  if (files.Kind(mapped) != FileKind::kAbsent) return true;
+  return FileNameOfPath(mapped).find_first_of("*?") != std::string::npos && AnyNameMatches(files, mapped);
+}
+
+std::string FileNameOfPath(std::string_view path) {
+  const std::size_t separator = path.find_last_of("\\/");
+  return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
+}
+
+std::string StripExtension(std::string_view name) { return std::string(TrimBlanks(name.substr(0, name.rfind('.')))); }
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  return MatchesFolded(FoldCase(name), FoldCase(pattern));
+}
+
+std::int32_t RandomBetween(std::int32_t low, std::int32_t count, const Clock& clock) {
+  const double uniform = static_cast<double>(Seed(clock) >> 11) * 0x1p-53;  // from 0 up to 1
+  return low + static_cast<std::int32_t>(std::floor(uniform * count));
+}

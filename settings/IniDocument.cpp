@@ -1,0 +1,188 @@
+#include "settings/IniDocument.h"
+
+#include <bit>
+#include <cstring>
+
+#include "platform/CaseFold.h"
+#include "settings/IniText.h"
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::size_t TableSize(std::size_t names) { return std::bit_ceil(names * 2 + 1); }
+
+}  // namespace
+
+IniDocument::IniDocument(std::string text) : text_(std::move(text)) {
+  std::uint32_t blankStart = 0;
+  for (std::uint32_t at = 0; at < text_.size();) {
+    const void* end = std::memchr(text_.data() + at, '\n', text_.size() - at);
+    const auto next = end == nullptr ? static_cast<std::uint32_t>(text_.size())
+                                     : static_cast<std::uint32_t>(static_cast<const char*>(end) - text_.data() + 1);
+    ReadLine({at, next}, blankStart);
+    at = next;
+  }
+  IndexNames();
+}
+
+void IniDocument::ReadLine(Span line, std::uint32_t& blankStart) {
+  Span content = line;
+  while (content.to > content.from && (text_[content.to - 1] == '\n' || text_[content.to - 1] == '\r')) --content.to;
+  while (content.from < content.to && IsBlank(text_[content.from])) ++content.from;
+  if (content.from == content.to) return;  // blank: `blankStart` stays where the run of blank lines began
+
+  const char first = text_[content.from];
+  if (first != ';' && !(first == '[' && ReadHeader(line, content, blankStart)) && !sections_.empty()) {
+    ReadKey(line, content);
+    sections_.back().bodyEnd = line.to;
+  }
+  blankStart = line.to;
+}
+
+bool IniDocument::ReadHeader(Span line, Span content, std::uint32_t blankStart) {
+  const std::string_view header = View(content);
+  const std::size_t close = header.rfind(']');
+  if (close == std::string_view::npos) return false;
+  const std::string_view rest = TrimBlanks(header.substr(close + 1));
+  if (!rest.empty() && rest.front() != ';') return false;
+  Section section;
+  section.name = {content.from + 1, content.from + static_cast<std::uint32_t>(close)};
+  section.start = blankStart;
+  section.bodyEnd = line.to;
+  section.firstKey = static_cast<std::uint32_t>(keys_.size());
+  sections_.push_back(section);
+  return true;
+}
+
+void IniDocument::ReadKey(Span line, Span content) {
+  const void* found = std::memchr(text_.data() + content.from, '=', content.to - content.from);
+  if (found == nullptr) return;
+  const auto equals = static_cast<std::uint32_t>(static_cast<const char*>(found) - text_.data());
+  Key key{line, {content.from, equals}, {equals + 1, content.to}};
+  // Blanks belong to a value that the station wrote ("Key=Value"); around a sign set apart by hand they do not.
+  if (key.name.to > key.name.from && IsBlank(text_[key.name.to - 1])) {
+    while (key.name.to > key.name.from && IsBlank(text_[key.name.to - 1])) --key.name.to;
+    while (key.value.from < key.value.to && IsBlank(text_[key.value.from])) ++key.value.from;
+    while (key.value.to > key.value.from && IsBlank(text_[key.value.to - 1])) --key.value.to;
+  }
+  keys_.push_back(key);
+  ++sections_.back().keyCount;
+}
+
+void IniDocument::IndexNames() {
+  sectionTable_.assign(TableSize(sections_.size()), 0);
+  keyTable_.assign(TableSize(keys_.size()), 0);
+  for (std::uint32_t s = 0; s < sections_.size(); ++s) {
+    const std::string_view name = View(sections_[s].name);
+    std::size_t slot = HashIgnoringCase(name, 0) & (sectionTable_.size() - 1);
+    while (sectionTable_[slot] != 0 && !EqualIgnoringCase(View(sections_[sectionTable_[slot] - 1].name), name)) {
+      slot = (slot + 1) & (sectionTable_.size() - 1);
+    }
+    if (sectionTable_[slot] != 0) continue;  // a later twin, which no lookup by name may reach
+    sectionTable_[slot] = s + 1;
+
+    const Section& section = sections_[s];
+    for (std::uint32_t k = section.firstKey; k < section.firstKey + section.keyCount; ++k) {
+      const std::string_view keyName = View(keys_[k].name);
+      std::size_t keySlot = HashIgnoringCase(keyName, s + 1) & (keyTable_.size() - 1);
+      while (keyTable_[keySlot] != 0 && !(keyTable_[keySlot] > section.firstKey &&
+                                          EqualIgnoringCase(View(keys_[keyTable_[keySlot] - 1].name), keyName))) {
+        keySlot = (keySlot + 1) & (keyTable_.size() - 1);
+      }
+      if (keyTable_[keySlot] == 0) keyTable_[keySlot] = k + 1;
+    }
+  }
+}
+
+std::size_t IniDocument::LookUpSection(std::string_view name) const {
+  if (sectionTable_.empty()) return kNone;
+  for (std::size_t slot = HashIgnoringCase(name, 0);; ++slot) {
+    const std::uint32_t entry = sectionTable_[slot & (sectionTable_.size() - 1)];
+    if (entry == 0) return kNone;
+    if (EqualIgnoringCase(View(sections_[entry - 1].name), name)) return entry - 1;
+  }
+}
+
+std::size_t IniDocument::LookUpKey(std::size_t section, std::string_view name) const {
+  if (keyTable_.empty()) return kNone;
+  const std::uint32_t first = sections_[section].firstKey;
+  const std::uint32_t last = first + sections_[section].keyCount;
+  for (std::size_t slot = HashIgnoringCase(name, section + 1);; ++slot) {
+    const std::uint32_t entry = keyTable_[slot & (keyTable_.size() - 1)];
+    if (entry == 0) return kNone;
+    if (entry > first && entry <= last && EqualIgnoringCase(View(keys_[entry - 1].name), name)) return entry - 1;
+  }
+}
+
+std::size_t IniDocument::FindSection(std::string_view name) const {
+  const std::size_t section = LookUpSection(name);
+  if (section != kNone) return section;
+  // What was asked to be written under a name that breaks the file stands under the cleaned one.
+  const std::string clean = CleanSectionName(name);
+  return clean == name ? kNone : LookUpSection(clean);
+}
+
+std::size_t IniDocument::FindKey(std::size_t section, std::string_view name) const {
+  const std::size_t key = LookUpKey(section, name);
+  if (key != kNone) return key;
+  const std::string clean = CleanKeyName(name);
+  return clean == name ? kNone : LookUpKey(section, clean);
+}
+
+std::string_view IniDocument::KeyName(std::size_t section, std::size_t key) const {
+  return View(keys_[sections_[section].firstKey + key].name);
+}
+
+std::string_view IniDocument::Value(std::string_view section, std::string_view key) const {
+  const std::size_t s = FindSection(section);
+  if (s == kNone) return {};
+  const std::size_t k = FindKey(s, key);
+  return k == kNone ? std::string_view{} : View(keys_[k].value);
+}
+
+std::string IniDocument::WithValue(std::string_view section, std::string_view key, std::string_view value) const {
+  const std::size_t s = FindSection(section);
+  std::string text;
+  if (s == kNone) {
+    text = WithSection(section);
+    text.append(CleanKeyName(key)).append("=").append(CleanValue(value)).append(kLineEnd);
+    return text;
+  }
+  const std::size_t k = FindKey(s, key);
+  std::string line = k == kNone ? CleanKeyName(key) : std::string(View(keys_[k].name));
+  line.append("=").append(CleanValue(value)).append(kLineEnd);
+  const Span old = k == kNone ? Span{sections_[s].bodyEnd, sections_[s].bodyEnd} : keys_[k].line;
+  text.reserve(text_.size() + line.size());
+  text.append(text_, 0, old.from).append(line).append(text_, old.to);
+  return text;
+}
+
+std::string IniDocument::WithSection(std::string_view name) const {
+  std::string text = text_;
+  const bool endsBlank = text.empty() || text == kLineEnd || text.ends_with("\r\n\r\n");
+  if (!endsBlank) text.append(kLineEnd);
+  text.append("[").append(CleanSectionName(name)).append("]").append(kLineEnd);
+  return text;
+}
+
+std::string IniDocument::WithoutSection(std::size_t section) const {
+  const Section& gone = sections_[section];
+  std::string text = text_;
+  text.erase(gone.start, gone.bodyEnd - gone.start);
+  return text;
+}
+
+std::string IniDocument::WithoutKey(std::size_t section, std::string_view key) const {
+  const Section& from = sections_[section];
+  const std::string clean = CleanKeyName(key);
+  for (const std::string_view name : {key, std::string_view(clean)}) {
+    for (std::uint32_t k = from.firstKey; k < from.firstKey + from.keyCount; ++k) {
+      if (!EqualIgnoringCase(View(keys_[k].name), name)) continue;
+      std::string text = text_;
+      text.erase(keys_[k].line.from, keys_[k].line.to - keys_[k].line.from);
+      return text;
+    }
+  }
+  return text_;
+}
