@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """stage.py PROGRAM FOLDER: makes FOLDER a demo station that goes on the air by itself.
 
 The program in it is renewed each time. Clips, playlist and settings are made where they are missing and else left as
