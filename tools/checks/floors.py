@@ -40,7 +40,7 @@ def upwards(path, include):
         return "write it from the root of the project, as in \"settings/IniFile.h\""
     if FLOORS[there] > FLOORS[here]:
         return f"{here} lies below {there}; raise an event there and connect it in app/roads.cpp"
-    if FLOORS[here] == FLOOR_OF_STRANGERS and there != here:
+    if FLOORS[here] == FLOORS[there] == FLOOR_OF_STRANGERS and there != here:
         return f"{here} and {there} do not know each other; raise an event and connect it in app/roads.cpp"
     name = path.as_posix()
     if include.startswith(REAL_WORLDS) and here != "app" and not name.startswith(REAL_WORLDS):

@@ -24,17 +24,22 @@ class Station:
         self.folder.mkdir(parents=True)
         # The program finds its folder by its own file, so a link would lead it astray.
         shutil.copy2(PROGRAM, self.folder / "corvanta")
-        sections = {
+        self._sections = {
             "Settings": {"ShowMouse": "1", "ShowTaskbar": "1", "StartUp": "0", "Ext": "*.mp4;*.png;*.wav"},
             "Output": {"Show": "True"},
             "Playlist": {"LastPlay": "1", "LastPlaySchdule": "1", "LastPlaylist": "List.plt", "OneAfterAnother": "1"},
         }
+        ini.write(self.settings, self._sections)
         for section, keys in (settings or {}).items():
-            sections.setdefault(section, {}).update(keys)
-        ini.write(self.settings, sections)
+            self.change(section, **keys)
         left, top, width, height = (str(measure * TWIPS) for measure in place)
         window = {"Left": left, "Top": top, "Width": width, "Height": height}
         ini.write(self.folder / "Window.ini", {"frmPlayer": window})
+
+    def change(self, section, **keys):
+        """Sets keys of the settings before the first start."""
+        self._sections.setdefault(section, {}).update(keys)
+        ini.write(self.settings, self._sections)
 
     def playlist(self, *paths, name="List.plt"):
         """A playlist file of these media, in this order."""
@@ -91,19 +96,25 @@ class Station:
     def await_colour(self, wanted):
         until(f"{wanted} on the air", lambda: self._is_alive() and self.colour() == wanted)
 
-    def watch(self, changes, seconds=40.0):
-        """The first `changes` pictures on the air from now on, each noted when it has stood for two looks. Black, the
-        moment between two items, counts as one and leads to no further one by itself."""
-        seen, last = [], None
+    def items(self, count, seconds=60.0):
+        """The next `count` items on the air by their colours. Black parts an item from the next; a colour counts once
+        it has stood for two looks."""
+        seen, last, standing = [], None, "black"
         deadline = time.monotonic() + seconds
-        while len(seen) < changes and time.monotonic() < deadline:
+        while len(seen) < count and time.monotonic() < deadline:
             self._is_alive()
             now = self.colour()
-            if now == last and now != "mixed" and (not seen or seen[-1] != now):
-                seen.append(now)
+            if now == last and now not in (standing, "mixed"):
+                standing = now
+                if now != "black":
+                    seen.append(now)
             last = now
             time.sleep(0.03)
         return seen
+
+    def assert_plays(self, *wanted):
+        seen = self.items(len(wanted))
+        assert seen == list(wanted), f"on the air were {seen} and not {list(wanted)}"
 
     def assert_responsive(self):
         """The control window comes on Ctrl+M."""
