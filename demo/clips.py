@@ -1,0 +1,30 @@
+"""Media made on the spot with ffmpeg, so that no clip has to be kept in the repository."""
+
+import os
+import pathlib
+import subprocess
+
+
+def make(path, *arguments):
+    """Runs ffmpeg with `arguments` to make `path`, unless it is there already. A broken run leaves no file behind."""
+    path = pathlib.Path(path)
+    if path.exists():
+        return path
+    path.parent.mkdir(parents=True, exist_ok=True)
+    unfinished = path.with_name(f"unfinished-{os.getpid()}-{path.name}")
+    command = ["ffmpeg", "-nostdin", "-loglevel", "error", "-y", *map(str, arguments), str(unfinished)]
+    try:
+        subprocess.run(command, check=True)
+        os.replace(unfinished, path)
+    finally:
+        unfinished.unlink(missing_ok=True)
+    return path
+
+
+def caption(text):
+    """A filter that writes `text` across the lower part of the picture, on a dark plate."""
+    font = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf"
+    return (
+        f"drawtext=fontfile={font}:text='{text}':fontsize=56:fontcolor=white:"
+        "box=1:boxcolor=black@0.6:boxborderw=24:x=(w-tw)/2:y=h*0.78"
+    )

@@ -1,0 +1,113 @@
+#!/usr/bin/python3
+"""stage.py PROGRAM FOLDER: makes FOLDER a demo station that goes on the air by itself.
+
+The program in it is renewed each time. Clips, playlist and settings are made where they are missing and else left as
+they are, so that the demo station keeps what its operator has set.
+"""
+
+import pathlib
+import shutil
+import sys
+
+import clips
+
+VIDEO = ["-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p", "-c:a", "aac", "-shortest"]
+
+# Display name, length in seconds, file name, and what ffmpeg makes the file from.
+PROGRAMME = [
+    (
+        "Welcome",
+        20,
+        "welcome.mp4",
+        ["-f", "lavfi", "-i", "gradients=s=1280x720:r=25:d=20:speed=0.01:c0=0x103060:c1=0x2080a0:c2=0x602080:n=3",
+         "-f", "lavfi", "-i", "sine=frequency=330:duration=20", "-vf", clips.caption("Corvanta  -  Welcome"), *VIDEO],
+    ),
+    (
+        "Test card",
+        12,
+        "test-card.mp4",
+        ["-f", "lavfi", "-i", "testsrc2=s=1280x720:r=25:d=12",
+         "-f", "lavfi", "-i", "sine=frequency=440:duration=12", "-vf", clips.caption("Test card"), *VIDEO],
+    ),
+    (
+        "Interval chime",
+        6,
+        "interval-chime.mp3",
+        ["-f", "lavfi", "-i", "aevalsrc='0.3*sin(2*PI*(440+110*floor(t))*t)*exp(-2*mod(t,1))':d=6", "-q:a", "5"],
+    ),
+    (
+        "Back soon",
+        5,
+        "back-soon.jpg",
+        ["-f", "lavfi", "-i", "color=c=0x204030:s=1280x720:d=1", "-vf", clips.caption("Back soon"), "-frames:v", "1"],
+    ),
+]
+
+SETTINGS = {
+    "Settings": {
+        "ShowMouse": "1",
+        "ShowTaskbar": "1",
+        "StartUp": "1",
+        "Ext": "*.mp4;*.mkv;*.avi;*.mpg;*.mp3;*.wav;*.jpg;*.png",
+    },
+    "Output": {"Show": "True"},
+    "Playlist": {
+        "LastPlay": "1",
+        "OneAfterAnother": "1",
+        "LastPlaylist": "Demo.plt",
+        "LastPlaySchdule": "1",
+    },
+}
+
+# Twips, 15 to a pixel: an output window of 1280 by 720 pixels.
+WINDOWS = {"frmPlayer": {"Left": "0", "Top": "0", "Width": "19200", "Height": "10800"}}
+
+
+def write_ini(path, sections):
+    """Writes an INI file the way the station does, unless there is one."""
+    if path.exists():
+        return
+    path.parent.mkdir(parents=True, exist_ok=True)
+    lines = []
+    for name, keys in sections.items():
+        lines += [f"[{name}]", *(f"{key}={value}" for key, value in keys.items())]
+    path.write_bytes("".join(f"{line}\r\n" for line in lines).encode())
+
+
+def time_text(second_of_day):
+    hour, rest = divmod(second_of_day % 86400, 3600)
+    return f"{(hour + 11) % 12 + 1:02}:{rest // 60:02}:{rest % 60:02} {'AM' if hour < 12 else 'PM'}"
+
+
+def running_order(folder):
+    """The rows of the demo playlist, one after another from 7 in the morning."""
+    start = 7 * 3600
+    rows = {}
+    for name, seconds, file_name, _ in PROGRAMME:
+        rows[time_text(start)] = {
+            "Duration": f"0:{seconds // 60}:{seconds % 60}",
+            "EndTime": time_text(start + seconds),
+            "FileName": name,
+            "Path": folder / file_name,
+        }
+        start += seconds + 1
+    return rows
+
+
+def main():
+    program, station = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    clip_folder = station / "Media" / "Clips"
+    for _, _, file_name, recipe in PROGRAMME:
+        clips.make(clip_folder / file_name, *recipe)
+    SETTINGS["Playlist"]["FolderPath"] = str(clip_folder)
+    write_ini(station / "Settings.ini", SETTINGS)
+    write_ini(station / "Window.ini", WINDOWS)
+    write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))
+    # A running program's file cannot be written over, but it can be replaced.
+    renewed = station / "corvanta.new"
+    shutil.copy2(program, renewed)
+    renewed.replace(station / "corvanta")
+
+
+if __name__ == "__main__":
+    main()

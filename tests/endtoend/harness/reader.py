@@ -1,0 +1,59 @@
+"""A form's controls as a screen reader finds them: by the names on the screen."""
+
+from .patience import until
+
+
+class Reader:
+    """Looks at the programs on the bus that the environment names. Make it after the desk is up."""
+
+    def __init__(self, screen):
+        import gi
+
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+
+        self._atspi = Atspi
+        self._screen = screen
+        Atspi.init()
+        Atspi.set_timeout(2000, 2000)
+
+    def find(self, name, role=None):
+        """The first control on show with that name; None when there is none."""
+        try:
+            return self._search(self._atspi.get_desktop(0), name, role)
+        except self._gone():
+            return None
+
+    def press(self, name, role="push button"):
+        """Clicks a button with the mouse, where it stands."""
+        x, y = until(f'a {role} "{name}" on the screen', lambda: self._middle(name, role))
+        self._screen.click(x, y)
+
+    def _middle(self, name, role):
+        control = self.find(name, role)
+        if control is None:
+            return None
+        try:
+            place = self._atspi.Component.get_extents(control, self._atspi.CoordType.SCREEN)
+        except self._gone():
+            return None
+        return place.x + place.width // 2, place.y + place.height // 2
+
+    def _search(self, node, name, role):
+        if node is None:
+            return None
+        if node.get_name() == name and (role is None or node.get_role_name() == role) and self._shows(node):
+            return node
+        for index in range(node.get_child_count()):
+            found = self._search(node.get_child_at_index(index), name, role)
+            if found is not None:
+                return found
+        return None
+
+    def _shows(self, node):
+        return node.get_state_set().contains(self._atspi.StateType.SHOWING)
+
+    def _gone(self):
+        from gi.repository import GLib
+
+        return GLib.Error

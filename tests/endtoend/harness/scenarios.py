@@ -1,0 +1,60 @@
+"""A file of scenarios: `file.py --list` names them, `file.py NAME` plays one, `file.py` plays them all."""
+
+import pathlib
+import re
+import shutil
+import sys
+import traceback
+
+from .desk import Desk
+from .media import ROOT
+from .station import corvanta_is_built
+
+FAILURES = ROOT / "build" / "e2e-failures"
+# What is too large to be kept after a failure.
+LARGEST_KEPT = 1 << 20
+
+_scenarios = {}
+
+
+def scenario(function):
+    """Marks a function that takes a desk. Its name, in plain words, is the behaviour that it proves."""
+    _scenarios[function.__name__] = function
+    return function
+
+
+def main():
+    if sys.argv[1:] == ["--list"]:
+        print("\n".join(_scenarios))
+        return
+    if not corvanta_is_built():
+        sys.exit("The program is not built yet: cmake --build --preset release")
+    failed = [name for name in sys.argv[1:] or _scenarios if not _plays(name)]
+    if failed:
+        sys.exit(f"Failed: {', '.join(failed)}")
+
+
+def _plays(name):
+    with Desk() as desk:
+        try:
+            _scenarios[name](desk)
+            return True
+        except Exception:
+            traceback.print_exc()
+            kept = _keep(desk, name)
+            print(f"{name} failed; the screen and the station's files are in {kept}")
+            return False
+
+
+def _keep(desk, name):
+    folder = FAILURES / re.sub(r"\W", "_", name)
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    desk.screen.picture(folder / "screen.png")
+    desk.log.flush()
+    for path in pathlib.Path(desk.folder).rglob("*"):
+        if path.is_file() and path.stat().st_size <= LARGEST_KEPT:
+            copy = folder / path.relative_to(desk.folder)
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(path, copy)
+    return folder

@@ -1,0 +1,131 @@
+"""A station in a folder of its own: its files, its program and what it shows."""
+
+import os
+import shutil
+import time
+
+from . import ini, media
+from .patience import until
+
+PROGRAM = media.ROOT / "build" / "release" / "app" / "corvanta"
+TWIPS = 15
+
+
+class Station:
+    """Stages `folder`. The output window stands at `place` (left, top, width, height in pixels)."""
+
+    def __init__(self, desk, name="station", place=(100, 60, 640, 360), settings=None):
+        self.desk = desk
+        self.screen = desk.screen
+        self.folder = desk.folder / name
+        self.place = place
+        self.settings = self.folder / "Settings.ini"
+        self._process = None
+        self.folder.mkdir(parents=True)
+        # The program finds its folder by its own file, so a link would lead it astray.
+        shutil.copy2(PROGRAM, self.folder / "corvanta")
+        self._sections = {
+            "Settings": {"ShowMouse": "1", "ShowTaskbar": "1", "StartUp": "0", "Ext": "*.mp4;*.png;*.wav"},
+            "Output": {"Show": "True"},
+            "Playlist": {"LastPlay": "1", "LastPlaySchdule": "1", "LastPlaylist": "List.plt", "OneAfterAnother": "1"},
+        }
+        ini.write(self.settings, self._sections)
+        for section, keys in (settings or {}).items():
+            self.change(section, **keys)
+        left, top, width, height = (str(measure * TWIPS) for measure in place)
+        window = {"Left": left, "Top": top, "Width": width, "Height": height}
+        ini.write(self.folder / "Window.ini", {"frmPlayer": window})
+
+    def change(self, section, **keys):
+        """Sets keys of the settings before the first start."""
+        self._sections.setdefault(section, {}).update(keys)
+        ini.write(self.settings, self._sections)
+
+    def playlist(self, *paths, name="List.plt"):
+        """A playlist file of these media, in this order."""
+        rows = {}
+        for index, path in enumerate(paths):
+            rows[f"07:{index:02}:00 AM"] = {
+                "Duration": "0:0:2", "EndTime": f"07:{index:02}:02 AM", "FileName": "Item", "Path": str(path),
+            }
+        ini.write(self.folder / "Playlist" / name, rows)
+
+    def start(self):
+        self._process = self.desk.start(self.folder / "corvanta", cwd="/")
+        return self
+
+    def start_on_air(self):
+        """Starts and waits for the output window."""
+        self.start()
+        until("the output window", self.output)
+        return self
+
+    @property
+    def alive(self):
+        return self._process is not None and self._process.poll() is None
+
+    def exit_status(self):
+        return self._process.poll()
+
+    def stop(self):
+        """Pulls the plug."""
+        self._process.kill()
+        self._process.wait()
+
+    def setting(self, section, key):
+        return ini.value(self.settings, section, key)
+
+    def await_setting(self, section, key, wanted):
+        until(f"{key}={wanted} in {section}", lambda: self.setting(section, key) == wanted)
+
+    def output(self):
+        return self.screen.window(form="frmPlayer")
+
+    def control(self):
+        return self.screen.window(form="frmMid")
+
+    def colour(self):
+        """What is on the air: a colour's name, "mixed" when the middle and a corner of the picture differ."""
+        left, top, width, height = self.place
+        seen = {
+            media.name_of(self.screen.pixel(x, y))
+            for x, y in ((left + width // 2, top + height // 2), (left + width // 8, top + height // 8))
+        }
+        return seen.pop() if len(seen) == 1 else "mixed"
+
+    def await_colour(self, wanted):
+        until(f"{wanted} on the air", lambda: self._is_alive() and self.colour() == wanted)
+
+    def items(self, count, seconds=60.0):
+        """The next `count` items on the air by their colours. Black parts an item from the next; a colour counts once
+        it has stood for two looks."""
+        seen, last, standing = [], None, "black"
+        deadline = time.monotonic() + seconds
+        while len(seen) < count and time.monotonic() < deadline:
+            self._is_alive()
+            now = self.colour()
+            if now == last and now not in (standing, "mixed"):
+                standing = now
+                if now != "black":
+                    seen.append(now)
+            last = now
+            time.sleep(0.03)
+        return seen
+
+    def assert_plays(self, *wanted):
+        seen = self.items(len(wanted))
+        assert seen == list(wanted), f"on the air were {seen} and not {list(wanted)}"
+
+    def assert_responsive(self):
+        """The control window comes on Ctrl+M."""
+        self._is_alive()
+        self.screen.keys("ctrl+m")
+        until("the control window after Ctrl+M", self.control)
+
+    def _is_alive(self):
+        assert self.alive, f"the program ended with status {self.exit_status()}"
+        return True
+
+
+def corvanta_is_built():
+    return os.access(PROGRAM, os.X_OK)

@@ -1,0 +1,133 @@
+#!/usr/bin/python3
+"""Start, control window, hot keys and exit."""
+
+import shutil
+import time
+
+from harness import ini, media
+from harness.patience import throughout, until
+from harness.reader import Reader
+from harness.scenarios import main, scenario
+from harness.station import Station
+
+
+def playing(desk, **more):
+    """A station that plays red for a minute."""
+    station = Station(desk, **more)
+    station.playlist(media.clip("red", 60))
+    station.start_on_air()
+    station.await_colour("red")
+    return station
+
+
+@scenario
+def the_splash_stands_two_seconds_in_the_middle(desk):
+    station = Station(desk)
+    station.start()
+    splash = until("the splash", lambda: desk.screen.window(form="frmLoad"))
+    came = time.monotonic()
+    assert station.output() is None
+    until("the end of the splash", lambda: desk.screen.window(form="frmLoad") is None)
+    # A busy machine may hold it longer, never shorter; the first look at it came a little after it did.
+    assert time.monotonic() - came > 1.6
+    assert abs(splash.centre[0] - 640) <= 2 and abs(splash.centre[1] - 400) <= 2, splash
+
+
+@scenario
+def the_output_window_stands_where_it_was(desk):
+    place = (220, 130, 800, 450)
+    station = Station(desk, place=place)
+    station.playlist(media.clip("red", 60))
+    station.start_on_air()
+    station.await_colour("red")
+
+    def placed():
+        output = station.output()
+        return output and (output.x, output.y, output.width, output.height) == place
+
+    until("the place of the output window", placed)
+    until("a picture up to the edges", lambda: edges(desk.screen, place) == {"red"})
+    # The panes are laid out once more two seconds after the window opened.
+    throughout("the place of the output window", placed, 3)
+    assert edges(desk.screen, place) == {"red"}
+
+
+def edges(screen, place):
+    left, top, width, height = place
+    corners = [(x, y) for x in (left + 3, left + width - 4) for y in (top + 3, top + height - 4)]
+    return {media.name_of(screen.pixel(x, y)) for x, y in corners}
+
+
+@scenario
+def ctrl_m_brings_the_hidden_control_window(desk):
+    station = playing(desk)
+    throughout("no control window", lambda: station.control() is None, 1.5)
+    desk.screen.keys("ctrl+m")
+    control = until("the control window", station.control)
+    assert control.title == "Corvanta 6.0", control
+
+
+@scenario
+def the_close_box_hides_the_control_window_and_play_goes_on(desk):
+    station = playing(desk, settings={"Settings": {"StartUp": "1"}})
+    control = until("the control window", station.control)
+    desk.screen.ask_to_close(control)
+    until("the control window to go", lambda: station.control() is None)
+    throughout("red on the air", lambda: station.colour() == "red", 1.5)
+    station.assert_responsive()
+
+
+@scenario
+def ctrl_x_asks_and_only_yes_ends_the_station(desk):
+    station = playing(desk)
+    reader = Reader(desk.screen)
+    for answer in ("No", "Yes"):
+        desk.screen.keys("ctrl+x")
+        until("the question", lambda: desk.screen.window(title="Exit"))
+        assert reader.find("Are You Sure you wnat to EXIT from Corvanta 6.0?"), "the question's words"
+        assert station.alive
+        throughout("red behind the question", lambda: station.colour() == "red", 1)
+        reader.press(answer)
+        if answer == "No":
+            until("the question to go", lambda: desk.screen.window(title="Exit") is None)
+            throughout("red on the air", lambda: station.colour() == "red", 1)
+    until("the end of the program", lambda: not station.alive)
+    assert station.exit_status() == 0, station.exit_status()
+
+
+@scenario
+def ctrl_t_and_ctrl_o_write_that_taskbar_and_cursor_stay(desk):
+    station = playing(desk, settings={"Settings": {"ShowMouse": "0", "ShowTaskbar": "0"}})
+    desk.screen.keys("ctrl+t")
+    station.await_setting("Settings", "ShowTaskbar", "1")
+    desk.screen.keys("ctrl+o")
+    station.await_setting("Settings", "ShowMouse", "1")
+    assert station.colour() == "red"
+
+
+@scenario
+def a_copied_folder_is_another_station(desk):
+    first = Station(desk, settings={"Playlist": {"LastPlaySchdule": "2"}})
+    first.playlist(media.clip("red", 60), media.clip("blue", 60))
+    before = first.settings.read_bytes()
+    other = Station(desk, name="other 100% station")
+    shutil.rmtree(other.folder)
+    shutil.copytree(first.folder, other.folder)
+    other.start_on_air()
+    other.await_colour("blue")
+    until("a recorded position", lambda: other.setting("Playlist", "LastPositionSchdule"))
+    assert first.settings.read_bytes() == before
+
+
+@scenario
+def the_station_starts_again_at_the_next_log_on(desk):
+    station = Station(desk, name="my station")
+    station.start_on_air()
+    entry = desk.folder / "home" / ".config" / "autostart" / "My App.desktop"
+    until("the entry for the log-on", entry.exists)
+    command = ini.value(entry, "Desktop Entry", "Exec")
+    assert str(station.folder / "corvanta") in command, command
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,32 @@
+"""The controls of a form and the widgets of its layout are the same, by name."""
+
+import re
+import xml.etree.ElementTree
+
+# A control is a member that is handed its container and its name: `CheckBox chkTime{*this, "chkTime"}`.
+MEMBER = re.compile(r'\b([A-Z]\w+)\s+\w+\{\s*[\w*]+,\s*"(\w+)"')
+UNSEEN = {"Timer", "TrayIcon", "ImageList"}
+# Widgets that only serve the layout.
+LAYOUT_ONLY = re.compile(r"lay")
+
+
+def check(tree):
+    problems = []
+    for path in tree.with_suffix(".ui"):
+        header = path.with_suffix(".h")
+        if header not in tree.files:
+            problems.append(f"{path} has no {header.name} beside it: a form is .h, .cpp and .ui")
+            continue
+        controls = {name for kind, name in MEMBER.findall(tree.read(header)) if kind not in UNSEEN}
+        widgets = widget_names(tree.root / path)
+        for name in sorted(controls - widgets):
+            problems.append(f"{path} has no widget {name}, a control of {header.name}")
+        for name in sorted(widgets - controls):
+            problems.append(f"{header} has no control {name}, a widget of {path.name}; call mere layout lay{name}")
+    return problems
+
+
+def widget_names(path):
+    top = xml.etree.ElementTree.parse(path).getroot().find("widget")
+    names = [element.get("name") for element in top.iter() if element.tag in ("widget", "action") and element is not top]
+    return {name for name in names if name and not LAYOUT_ONLY.match(name)}
