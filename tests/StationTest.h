@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -26,7 +27,7 @@ class StationTest : public ::testing::Test {
 
   frmPlayer& Output() { return station.forms.Get<frmPlayer>(); }
   frmPlaylist& Playlists() { return station.forms.Get<frmPlaylist>(); }
-  frmMid& Control() { return station.forms.Get<frmMid>(); }
+  frmMid& ControlWindow() { return station.forms.Get<frmMid>(); }
   SimPlayer& MainPlayer() { return *sim.media.Find("frmPlayer.Player"); }
 
   void Advance(std::chrono::nanoseconds duration) { sim.time.Advance(duration); }

@@ -24,9 +24,9 @@ TEST_F(PlaybackTest, TheEndOfAnItemArmsOneTickHalfASecondLater) {
 TEST_F(PlaybackTest, AStopIsNoEndAndNothingAdvances) {
   Playlist("Day.plt", {Clip("a.mp4"), Clip("b.mp4")});
   Set("Playlist", "OneAfterAnother", "1");
-  Control().ThemedButton5.Press();
+  ControlWindow().ThemedButton5.Press();
   Advance(1s);
-  Control().ThemedButton6.Press();
+  ControlWindow().ThemedButton6.Press();
   Advance(1min);
   EXPECT_EQ(Output().Player.playState(), 1);
   EXPECT_EQ(Aired(), Names{"a.mp4"});
@@ -34,9 +34,9 @@ TEST_F(PlaybackTest, AStopIsNoEndAndNothingAdvances) {
 
 TEST_F(PlaybackTest, StartAfterAStopPlaysTheNextItemNotTheStoppedOne) {
   Playlist("Day.plt", {Clip("a.mp4"), Clip("b.mp4")});
-  Control().ThemedButton5.Press();
-  Control().ThemedButton6.Press();
-  Control().ThemedButton5.Press();
+  ControlWindow().ThemedButton5.Press();
+  ControlWindow().ThemedButton6.Press();
+  ControlWindow().ThemedButton5.Press();
   EXPECT_EQ(Aired(), (Names{"a.mp4", "b.mp4"}));
 }
 
@@ -82,7 +82,7 @@ TEST_F(PlaybackTest, ThePausedMainItemCannotEndDuringABreakAndTheEndOfAnAdIsNotI
 TEST_F(PlaybackTest, TheTickAfterAnEndRunsWhileADialogStands) {
   Playlist("Day.plt", {Clip("a.mp4", 2), Clip("b.mp4", 2)});
   Set("Playlist", "OneAfterAnother", "1");
-  Control().ThemedButton5.Press();
+  ControlWindow().ThemedButton5.Press();
   sim.dialogs.whileStanding = [this] { Advance(3s); };
   sim.desktop.PressCtrl('X');
   EXPECT_EQ(Aired(), (Names{"a.mp4", "b.mp4"}));

@@ -17,11 +17,14 @@ TEST_F(OptionsTest, OnTheVeryFirstRunEveryBoxIsClearAndTheListIsEmpty) {
 
 TEST_F(OptionsTest, AClickWritesTheBoxAtOnceUnderItsOwnKey) {
   frmPlaylist& form = Playlists();
-  const std::pair<CheckBox*, const char*> boxes[] = {
-      {&form.chkPreview, "ClickTOPlay"},       {&form.chkTime, "TimeON"},
-      {&form.chkDaySchedule, "DaySchdule"},    {&form.chkLastPlay, "LastPlay"},
-      {&form.chkFolderPlay, "PlayLocation"},   {&form.chkRendomPlay, "RendomPlay"},
-      {&form.chkOneAfterAnother, "OneAfterAnother"}, {&form.ChkQuickPlay, "QuickPlay"}};
+  const std::pair<CheckBox*, const char*> boxes[] = {{&form.chkPreview, "ClickTOPlay"},
+                                                     {&form.chkTime, "TimeON"},
+                                                     {&form.chkDaySchedule, "DaySchdule"},
+                                                     {&form.chkLastPlay, "LastPlay"},
+                                                     {&form.chkFolderPlay, "PlayLocation"},
+                                                     {&form.chkRendomPlay, "RendomPlay"},
+                                                     {&form.chkOneAfterAnother, "OneAfterAnother"},
+                                                     {&form.ChkQuickPlay, "QuickPlay"}};
   for (const auto& [box, key] : boxes) {
     box->Toggle();
     EXPECT_EQ(Setting("Playlist", key), "1") << key;

@@ -15,17 +15,15 @@ TEST_F(PlaylistFilesTest, ALoadShowsOneRowForEachSectionInFileOrder) {
   ASSERT_EQ(list.Count(), 2);
   EXPECT_EQ(list.Row(1), (ListRow{.text = "07:00:00 AM",
                                   .subItems = {"0:3:25", "07:03:25 AM", "Morning news", "D:\\Clips\\Morning news.avi"},
-                                  .smallIcon = 1,
-                                  .tag = "",
-                                  .key = ""}));
+                                  .smallIcon = 1}));
   EXPECT_EQ(list.Row(2).subItems, (std::vector<std::string>{"", "", "", "/clips/b.mp4"}));
   EXPECT_EQ(Playlists().fraPlaylist.Caption.Get(), "Playlist- Day");
 }
 
 TEST_F(PlaylistFilesTest, ASaveWritesABlankLineBeforeEverySectionTheFirstIncluded) {
   ListView& list = Playlists().ListPlay;
-  list.Add({.text = "07:00:00 AM", .subItems = {"0:3:25", "07:03:25 AM", "News", "D:\\News.avi"}, .tag = "", .key = ""});
-  list.Add({.text = "07:03:26 AM", .subItems = {"0:0:1", "07:03:27 AM", "b", "/b.avi"}, .tag = "", .key = ""});
+  list.Add({.text = "07:00:00 AM", .subItems = {"0:3:25", "07:03:25 AM", "News", "D:\\News.avi"}});
+  list.Add({.text = "07:03:26 AM", .subItems = {"0:0:1", "07:03:27 AM", "b", "/b.avi"}});
   Playlists().SavePlaylist(list, "New.plt");
   EXPECT_EQ(File("New.plt"),
             "\r\n[07:00:00 AM]\r\nDuration=0:3:25\r\nEndTime=07:03:25 AM\r\nFileName=News\r\nPath=D:\\News.avi\r\n"

@@ -40,11 +40,11 @@ TEST_F(StartUpTest, TheSplashsButtonEndsTheProcessWithNothingRestored) {
 
 TEST_F(StartUpTest, AFirstRunWalksInItsOrderAndHidesCursorTaskbarAndControlWindow) {
   Start();
-  EXPECT_EQ(sim.trace.Take(),
-            (Names{"frmLoad loaded", "frmLoad shown", "frmMid loaded", "frmPlayer loaded", "cursor down",
-                   "taskbar hidden", "frmMid shown", "frmMid hidden", "run at log-on \"My App\" /station/corvanta",
-                   "hot key 0 Ctrl+M", "hot key 1 Ctrl+X", "hot key 2 Ctrl+T", "hot key 3 Ctrl+O", "screen saver 0",
-                   "frmLoad unloaded"}));
+  EXPECT_EQ(
+      sim.trace.Take(),
+      (Names{"frmLoad loaded", "frmLoad shown", "frmMid loaded", "frmPlayer loaded", "cursor down", "taskbar hidden",
+             "frmMid shown", "frmMid hidden", "run at log-on \"My App\" /station/corvanta", "hot key 0 Ctrl+M",
+             "hot key 1 Ctrl+X", "hot key 2 Ctrl+T", "hot key 3 Ctrl+O", "screen saver 0", "frmLoad unloaded"}));
 }
 
 TEST_F(StartUpTest, AStationThatWasOnTheAirComesBackWithNobodyAtTheKeyboard) {
@@ -58,10 +58,10 @@ TEST_F(StartUpTest, AStationThatWasOnTheAirComesBackWithNobodyAtTheKeyboard) {
   EXPECT_TRUE(Output().PicSide.Visible);
   EXPECT_TRUE(station.forms.Loaded<frmPlaylist>());
   EXPECT_FALSE(Playlists().Visible);
-  EXPECT_TRUE(Control().Visible);
+  EXPECT_TRUE(ControlWindow().Visible);
   EXPECT_TRUE(sim.desktop.taskbarVisible);
   EXPECT_EQ(sim.desktop.cursorCount, 0);
-  EXPECT_TRUE(Control().OutputShown && Control().CrawlerShown && Control().LeftSideAdShown);
+  EXPECT_TRUE(ControlWindow().OutputShown && ControlWindow().CrawlerShown && ControlWindow().LeftSideAdShown);
 }
 
 TEST_F(StartUpTest, OnlyTheExactWordTrueTurnsAFeatureOn) {
@@ -96,12 +96,12 @@ TEST_F(StartUpTest, AnOutputWindowOfBeforeIsMadeAnewWhenTheOutputIsNotOnMonitorT
 TEST_F(StartUpTest, WithStartUpZeroOnlyCtrlMAndTheTrayLeadToTheControlWindow) {
   Set("Settings", "StartUp", "0");
   Start();
-  EXPECT_FALSE(Control().Visible);
+  EXPECT_FALSE(ControlWindow().Visible);
   sim.desktop.PressCtrl('M');
-  EXPECT_TRUE(Control().Visible);
-  Control().Hide();
-  Control().Tray.DoubleClick();
-  EXPECT_TRUE(Control().Visible);
+  EXPECT_TRUE(ControlWindow().Visible);
+  ControlWindow().Hide();
+  ControlWindow().Tray.DoubleClick();
+  EXPECT_TRUE(ControlWindow().Visible);
 }
 
 TEST_F(StartUpTest, AnotherNumberInStartUpNeitherShowsNorHides) {
@@ -121,8 +121,8 @@ TEST_F(StartUpTest, ANumberWrittenOtherwiseIsTheSameNumber) {
 
 TEST_F(StartUpTest, TheTrayTipKeepsItsOlderWording) {
   Start();
-  EXPECT_EQ(Control().Tray.TipText.Get(), "Corvanta 5.0");
-  EXPECT_EQ(Control().Caption.Get(), "Corvanta 6.0");
+  EXPECT_EQ(ControlWindow().Tray.TipText.Get(), "Corvanta 5.0");
+  EXPECT_EQ(ControlWindow().Caption.Get(), "Corvanta 6.0");
 }
 
 TEST_F(StartUpTest, CtrlTBringsTheTaskbarBackForGood) {
@@ -144,11 +144,11 @@ TEST_F(StartUpTest, TheCloseBoxHidesTheControlWindowAndPlayGoesOn) {
   Set("Playlist", "OneAfterAnother", "1");
   Set("Settings", "StartUp", "1");
   Start();
-  Control().ThemedButton5.Press();
-  Control().Tray.Visible = false;
-  Control().Close();
-  EXPECT_FALSE(Control().Visible);
-  EXPECT_TRUE(Control().Tray.Visible);
+  ControlWindow().ThemedButton5.Press();
+  ControlWindow().Tray.Visible = false;
+  ControlWindow().Close();
+  EXPECT_FALSE(ControlWindow().Visible);
+  EXPECT_TRUE(ControlWindow().Tray.Visible);
   Advance(3s);
   EXPECT_EQ(Aired(), (Names{"a.mp4", "b.mp4"}));
 }
