@@ -1,28 +1,46 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstdint>
+#include <map>
 #include <mutex>
-#include <set>
 #include <string>
 #include <thread>
 
 #include "platform/posix/PosixFiles.h"
 
-// Brings replaced files to the medium on a thread of its own, "flush", within a second of the write. The destructor
-// waits until all is there.
+// Puts new versions in the place of files and brings them to the medium on a thread of its own, "flush", within a
+// second. Until a version is there, the newest one that is keeps a second name (see KeptName), so that a power cut
+// leaves one of the two whole, in whatever order the file system writes. The destructor waits until all is there.
 class PosixFiles::Flusher {
  public:
   Flusher() = default;
   ~Flusher();
 
-  void Add(const std::string& path);
+  // Moves the file `unfinished`, which holds the content of that digest, to `target`, in one step. False when it cannot
+  // be done; then `target` is as it was and `unfinished` still there.
+  bool Swap(const std::string& target, const std::string& unfinished, std::uint64_t digest);
+  // Drops what is kept for a file that has been removed.
+  void Forget(const std::string& target);
 
  private:
-  void Run();
+  struct Pending {
+    std::uint64_t id = 0;  // tells it from a later one of the same file
+    std::string kept;      // path of the second name; empty while no version is on the medium
+    std::string next;      // path of the version that is being flushed, once it is no more the newest; empty before
+    std::uint64_t digest = 0;
+    bool isFlushing = false;
+  };
 
-  std::mutex mutex_;
+  bool KeepDurable(const std::string& target, Pending& pending, bool isNew, std::uint64_t digest);
+  void Run();
+  void Flush(const std::string& target, std::unique_lock<std::mutex>& lock);
+  void Settle(const std::string& target, Pending& pending);
+
+  std::mutex mutex_;  // held for a few system calls at a time, never during a flush
   std::condition_variable wake_;
-  std::set<std::string> pending_;
+  std::map<std::string, Pending> pending_;
+  std::uint64_t lastId_ = 0;
   bool ending_ = false;
   std::thread thread_;  // started with the first file
 };

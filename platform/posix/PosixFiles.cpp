@@ -6,20 +6,19 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
-#include <cstdio>
+#include <cstdlib>
 
 #include "platform/CaseFold.h"
 #include "platform/posix/FileHandle.h"
 #include "platform/posix/Flusher.h"
 #include "platform/posix/PosixWatch.h"
+#include "platform/posix/ReadAll.h"
+#include "platform/posix/RecoverFolder.h"
 #include "platform/posix/ResolvePath.h"
+#include "platform/posix/SafeNames.h"
 
 namespace {
-
-// Ends the names of files that are being written. They begin with a dot and are in no list.
-constexpr std::string_view kUnfinished = ".unfinished~";
 
 FileKind KindOf(const struct stat& status) {
   if (S_ISREG(status.st_mode)) return FileKind::kRegular;
@@ -29,23 +28,6 @@ FileKind KindOf(const struct stat& status) {
 // Opens without waiting: a pipe that somebody left in a file's place must not stop the station.
 FileHandle OpenForReading(const std::string& path) {
   return FileHandle(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-}
-
-bool ReadAll(int descriptor, std::uint64_t size, std::uint64_t maxBytes, std::string& content) {
-  // One byte more than told, so that a file that grows meanwhile is seen to.
-  content.resize(size + 1);
-  std::size_t filled = 0;
-  for (;;) {
-    const ssize_t got = read(descriptor, content.data() + filled, content.size() - filled);
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return false;
-    if (got == 0) break;
-    filled += static_cast<std::size_t>(got);
-    if (filled > maxBytes) return false;
-    if (filled == content.size()) content.resize(content.size() * 2);
-  }
-  content.resize(filled);
-  return true;
 }
 
 bool WriteAll(int descriptor, const std::string& content) {
@@ -58,17 +40,20 @@ bool WriteAll(int descriptor, const std::string& content) {
   return true;
 }
 
-// A link stays a link: what is replaced is the file it leads to.
-std::string BehindLinks(const std::string& path) {
-  const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), free);
-  return real == nullptr ? path : real.get();
+// Makes a file of that content; `mode` below 0 leaves the permissions to the system.
+bool WriteFile(const std::string& path, const std::string& content, int mode) {
+  FileHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (!file.IsOpen()) return false;
+  if (mode >= 0) fchmod(file.Get(), static_cast<mode_t>(mode));
+  return WriteAll(file.Get(), content) && file.Close();
 }
 
-std::string UnfinishedName(const std::string& path) {
-  static std::atomic<std::uint64_t> count = 0;
-  const std::size_t name = path.rfind('/') + 1;
-  return path.substr(0, name) + "." + path.substr(name) + "." + std::to_string(getpid()) + "-" +
-         std::to_string(count++) + std::string(kUnfinished);
+// A link stays a link: what is replaced is the file it leads to.
+std::string BehindLinks(const std::string& path) {
+  struct stat status;
+  if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
+  const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), free);
+  return real == nullptr ? path : real.get();
 }
 
 bool RemoveTreeAt(int parent, const char* name) {
@@ -90,6 +75,10 @@ PosixFiles::PosixFiles() : flusher_(std::make_unique<Flusher>()) {}
 
 PosixFiles::~PosixFiles() = default;
 
+void PosixFiles::Recover(const std::string& folder) const {
+  if (recovered_.insert(folder).second) RecoverFolder(folder);
+}
+
 FileKind PosixFiles::Kind(const std::string& path) const {
   struct stat status;
   const bool exists = stat(path.c_str(), &status) == 0 || stat(ResolvePath(path).c_str(), &status) == 0;
@@ -97,8 +86,13 @@ FileKind PosixFiles::Kind(const std::string& path) const {
 }
 
 FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBytes) const {
+  Recover(FolderOfPath(path));
   FileHandle file = OpenForReading(path);
-  if (!file.IsOpen() && errno == ENOENT) file = OpenForReading(ResolvePath(path));
+  if (!file.IsOpen() && errno == ENOENT) {
+    const std::string resolved = ResolvePath(path);
+    Recover(FolderOfPath(resolved));
+    file = OpenForReading(resolved);
+  }
   FileReading reading;
   if (!file.IsOpen()) {
     reading.result = errno == ENOENT || errno == ENOTDIR ? ReadResult::kAbsent : ReadResult::kRefused;
@@ -107,7 +101,7 @@ FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBy
   reading.result = ReadResult::kRefused;
   std::unique_ptr<PosixWatch> watch = PosixWatch::Start(path, file.Get());
   if (watch == nullptr || watch->Size() > maxBytes) return reading;
-  if (!ReadAll(file.Get(), watch->Size(), maxBytes, reading.content)) {
+  if (!ReadAll(file.Get(), watch->Size(), reading.content, maxBytes)) {
     reading.content.clear();
     return reading;
   }
@@ -119,26 +113,25 @@ FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBy
 
 bool PosixFiles::Replace(const std::string& path, const std::string& content) {
   const std::string target = BehindLinks(ResolvePath(path));
+  const std::string folder = FolderOfPath(target);
+  Recover(folder);
   struct stat status;
   const bool exists = stat(target.c_str(), &status) == 0;
   if (exists && (!S_ISREG(status.st_mode) || access(target.c_str(), W_OK) != 0)) return false;
 
-  const std::string unfinished = UnfinishedName(target);
-  FileHandle file(open(unfinished.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-  if (!file.IsOpen()) return false;
-  if (exists) fchmod(file.Get(), status.st_mode & 07777);
-  const bool written = WriteAll(file.Get(), content) && file.Close();
-  if (!written || rename(unfinished.c_str(), target.c_str()) != 0) {
-    unlink(unfinished.c_str());
-    return false;
-  }
-  flusher_->Add(target);
-  return true;
+  const std::string unfinished = UnfinishedName(folder);
+  const int mode = exists ? static_cast<int>(status.st_mode & 07777) : -1;
+  const bool isDone =
+      WriteFile(unfinished, content, mode) && flusher_->Swap(target, unfinished, ContentDigest(content));
+  if (!isDone) unlink(unfinished.c_str());
+  return isDone;
 }
 
 bool PosixFiles::Remove(const std::string& path) {
   const std::string target = ResolvePath(path);
-  return unlink(target.c_str()) == 0 || errno == ENOENT;
+  if (unlink(target.c_str()) != 0 && errno != ENOENT) return false;
+  flusher_->Forget(target);
+  return true;
 }
 
 bool PosixFiles::RemoveTree(const std::string& path) {
@@ -163,7 +156,7 @@ std::vector<std::string> PosixFiles::List(const std::string& folder, FileKind ki
   if (entries == nullptr) return names;
   while (const dirent* entry = readdir(entries.get())) {
     const std::string_view name = entry->d_name;
-    if (name == "." || name == ".." || (name.starts_with('.') && name.ends_with('~'))) continue;
+    if (name == "." || name == ".." || IsSafeName(name)) continue;
     struct stat status;
     if (fstatat(dirfd(entries.get()), entry->d_name, &status, 0) != 0) continue;
     if (KindOf(status) == kind) names.emplace_back(name);

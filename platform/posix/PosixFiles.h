@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <set>
 
 #include "platform/Files.h"
 
-// The real disk. One thread of its own, "flush", brings what was written to the medium; the destructor waits for it.
+// The real disk, for use by one thread. A thread of its own, "flush", brings what was written to the medium; the
+// destructor waits for it.
 class PosixFiles : public Files {
  public:
   PosixFiles();
@@ -20,5 +22,10 @@ class PosixFiles : public Files {
 
  private:
   class Flusher;
+
+  // Sees to what an earlier run left behind in the folder, once.
+  void Recover(const std::string& folder) const;
+
+  mutable std::set<std::string> recovered_;
   std::unique_ptr<Flusher> flusher_;
 };

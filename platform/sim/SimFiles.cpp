@@ -1,6 +1,7 @@
 #include "platform/sim/SimFiles.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/CaseFold.h"
 
@@ -21,6 +22,13 @@ struct SimFiles::Entry {
       if (EqualIgnoringCase(other, name)) return entry.get();
     }
     return nullptr;
+  }
+
+  Entry& NewChild(std::string_view name) {
+    // From now on the exact name hides what was found under it without regard to case.
+    const Entry* hidden = Child(name);
+    if (hidden != nullptr) ++*hidden->version;
+    return *children.emplace(name, std::make_unique<Entry>()).first->second;
   }
 };
 
@@ -99,14 +107,13 @@ bool SimFiles::Write(const std::string& path, const std::string& content) {
   Entry* folder = FindFolderOf(path, name);
   if (folder == nullptr) return false;
   Entry* entry = folder->Child(name);
-  if (entry == nullptr) {
-    auto made = std::make_unique<Entry>();
-    entry = made.get();
-    folder->children.emplace(name, std::move(made));
-  }
-  if (entry->isFolder) return false;
-  entry->content = content;
-  ++*entry->version;
+  return Fill(entry == nullptr ? folder->NewChild(name) : *entry, content);
+}
+
+bool SimFiles::Fill(Entry& entry, const std::string& content) {
+  if (entry.isFolder) return false;
+  entry.content = content;
+  ++*entry.version;
   return true;
 }
 
@@ -140,10 +147,8 @@ bool SimFiles::CreateFolder(const std::string& path) {
     Entry* child = folder->Child(part);
     if (child == nullptr) {
       if (full_) return false;
-      auto made = std::make_unique<Entry>();
-      made->isFolder = true;
-      child = made.get();
-      folder->children.emplace(part, std::move(made));
+      child = &folder->NewChild(part);
+      child->isFolder = true;
     }
     if (!child->isFolder) return false;
     folder = child;
@@ -164,12 +169,14 @@ std::vector<std::string> SimFiles::List(const std::string& folder, FileKind kind
 }
 
 void SimFiles::Put(const std::string& path, const std::string& content) {
-  const bool wasFull = full_;
-  full_ = false;
-  const std::size_t slash = path.rfind('/');
-  if (slash != std::string::npos) CreateFolder(path.substr(0, slash));
-  Write(path, content);
+  const bool wasFull = std::exchange(full_, false);
+  CreateFolder(path.substr(0, path.rfind('/') + 1));
   full_ = wasFull;
+  std::string_view name;
+  Entry* folder = FindFolderOf(path, name);
+  if (folder == nullptr) return;
+  const auto exact = folder->children.find(name);
+  Fill(exact == folder->children.end() ? folder->NewChild(name) : *exact->second, content);
 }
 
 void SimFiles::SetFault(const std::string& path, FileFault fault) {

@@ -30,7 +30,7 @@ class SimFiles : public Files {
   bool CreateFolder(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder, FileKind kind) const override;
 
-  // Puts a file on the disk past all faults, with the folders above it, as somebody else would.
+  // Puts a file of exactly that name on the disk past all faults, with the folders above it, as somebody else would.
   void Put(const std::string& path, const std::string& content);
   // Sets the fault of a path, which need not exist; it stays until it is set to kNone.
   void SetFault(const std::string& path, FileFault fault);
@@ -44,6 +44,7 @@ class SimFiles : public Files {
   Entry* FindFolderOf(std::string_view path, std::string_view& name) const;
   FileFault FaultOf(const std::string& path) const;
   bool Write(const std::string& path, const std::string& content);
+  static bool Fill(Entry& entry, const std::string& content);
 
   std::unique_ptr<Entry> root_;
   std::map<std::string, FileFault> faults_;  // by folded path
