@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QWidget>
+
+class MediaPlayer;
+
+// A widget that shows a player's picture, black where there is none. It follows its own size. `player` must outlive it.
+QWidget* NewPreviewWidget(MediaPlayer& player, QWidget* parent);
