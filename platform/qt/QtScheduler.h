@@ -47,11 +47,11 @@ class QtScheduler : public QObject, public Scheduler {
 
   std::map<Id, Entry> entries_;
   Id lastId_ = 0;
-  std::deque<Id> queue_;           // due, not yet run
-  std::vector<Tick> frameWork_;    // waits for the next frame
-  Nanoseconds frameDue_{0};        // when that is; 0 when nothing waits
+  std::deque<Id> queue_;         // due, not yet run
+  std::vector<Tick> frameWork_;  // waits for the next frame
+  Nanoseconds frameDue_{0};      // when that is; 0 when nothing waits
   bool frameWorkIsDue_ = false;
   Nanoseconds framePeriod_;
-  int wakeUp_ = 0;                 // the running Qt timer, 0 for none
+  int wakeUp_ = 0;  // the running Qt timer, 0 for none
   Nanoseconds wakeUpDue_{0};
 };

@@ -38,7 +38,8 @@ MpvInstance::MpvInstance(std::shared_ptr<FrameExchange> exchange, bool hardwareD
     throw std::runtime_error("No media player can be started.");
   }
   renderer_ = std::make_unique<MpvRenderer>(mpv_, std::move(exchange));
-  mpv_set_wakeup_callback(mpv_, [](void* self) { static_cast<MpvInstance*>(self)->wakeUp_(); }, this);
+  mpv_set_wakeup_callback(
+      mpv_, [](void* self) { static_cast<MpvInstance*>(self)->wakeUp_(); }, this);
 }
 
 MpvInstance::~MpvInstance() {
@@ -85,9 +86,7 @@ void MpvInstance::Set(const char* property, const char* value) {
   mpv_set_property_async(mpv_, 0, property, MPV_FORMAT_STRING, &value);
 }
 
-void MpvInstance::Observe(const char* property, mpv_format format) {
-  mpv_observe_property(mpv_, 0, property, format);
-}
+void MpvInstance::Observe(const char* property, mpv_format format) { mpv_observe_property(mpv_, 0, property, format); }
 
 void MpvInstance::Ask(const char* property, mpv_format format, std::uint64_t ticket) {
   mpv_get_property_async(mpv_, ticket, property, format);

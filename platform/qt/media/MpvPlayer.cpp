@@ -170,7 +170,8 @@ void MpvPlayer::SetStretchToFit(bool stretch) {
 void MpvPlayer::Enter(PlayState state) {
   if (state == state_) return;
   state_ = state;
-  QMetaObject::invokeMethod(this, [this, state] { listener_.PlayStateChanged(state); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this, state] { listener_.PlayStateChanged(state); }, Qt::QueuedConnection);
 }
 
 void MpvPlayer::EnterPlaying() {
@@ -226,7 +227,8 @@ void MpvPlayer::Replied(const mpv_event& event) {
     }
   } else if (ticket == durationTicket_) {
     if (event.error >= 0) Tell(*static_cast<const mpv_event_property*>(event.data));
-    QMetaObject::invokeMethod(this, [this] { listener_.MediaChanged(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { listener_.MediaChanged(); }, Qt::QueuedConnection);
   }
 }
 

@@ -73,13 +73,13 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   bool stretch_ = false;
 
   std::uint64_t lastTicket_ = 0;
-  std::uint64_t loadTicket_ = 0;      // of the load that makes the present item
+  std::uint64_t loadTicket_ = 0;  // of the load that makes the present item
   std::uint64_t durationTicket_ = 0;
   std::uint64_t seekTicket_ = 0;
   Entries entries_;
-  bool current_ = false;    // the entry that mpv started last belongs to the present item
+  bool current_ = false;  // the entry that mpv started last belongs to the present item
   bool open_ = false;
-  bool running_ = false;    // its first picture or sound is out
+  bool running_ = false;  // its first picture or sound is out
   bool buffering_ = false;
   bool seekQueued_ = false;  // mpv has taken the seek; the next restart is its end
   double position_ = 0;

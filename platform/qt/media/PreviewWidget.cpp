@@ -1,7 +1,9 @@
 #include "platform/qt/media/PreviewWidget.h"
 
 #include <QPainter>
+#include <QPointer>
 
+#include "platform/Media.h"
 #include "platform/qt/media/FrameSource.h"
 
 namespace {
@@ -10,10 +12,10 @@ class PreviewWidget : public QWidget {
  public:
   PreviewWidget(FrameSource* frames, QWidget* parent) : QWidget(parent), frames_(frames) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    if (frames_ != nullptr) connect(frames_, &FrameSource::Changed, this, &PreviewWidget::TakeFrame);
+    if (frames_) connect(frames_.data(), &FrameSource::Changed, this, &PreviewWidget::TakeFrame);
   }
   ~PreviewWidget() override {
-    if (frames_ != nullptr) frames_->SetTarget({});
+    if (frames_) frames_->SetTarget({});
   }
 
  protected:
@@ -28,14 +30,14 @@ class PreviewWidget : public QWidget {
 
  private:
   void Follow() {
-    if (frames_ != nullptr) frames_->SetTarget(isVisible() ? size() : QSize());
+    if (frames_) frames_->SetTarget(isVisible() ? size() : QSize());
   }
   void TakeFrame() {
     if (const auto frame = frames_->Take()) frame_ = *frame;
     update();
   }
 
-  FrameSource* frames_;
+  QPointer<FrameSource> frames_;  // a window may be taken down a little after its form has let go of its player
   QImage frame_;
 };
 

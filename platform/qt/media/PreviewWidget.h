@@ -4,5 +4,6 @@
 
 class MediaPlayer;
 
-// A widget that shows a player's picture, black where there is none. It follows its own size. `player` must outlive it.
+// A widget that shows a player's picture, black where there is none. It follows its own size, and stays
+// black when the player goes before it.
 QWidget* NewPreviewWidget(MediaPlayer& player, QWidget* parent);
