@@ -5,6 +5,8 @@
 
 MpvEngine::~MpvEngine() { MpvInstance::AwaitRest(std::chrono::seconds(2)); }
 
-std::unique_ptr<MediaPlayer> MpvEngine::NewPlayer(MediaListener& listener) {
-  return std::make_unique<MpvPlayer>(listener, decoding_ == Decoding::kHardwareWhereThereIs);
+std::unique_ptr<MediaPlayer> MpvEngine::NewPlayer(const std::string& name, MediaListener& listener) {
+  auto player = std::make_unique<MpvPlayer>(listener, decoding_ == Decoding::kHardwareWhereThereIs);
+  player->setObjectName(QString::fromStdString(name));
+  return player;
 }

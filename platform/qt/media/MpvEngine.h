@@ -10,7 +10,7 @@ class MpvEngine : public MediaEngine {
   explicit MpvEngine(Decoding decoding) : decoding_(decoding) {}
   ~MpvEngine() override;
 
-  std::unique_ptr<MediaPlayer> NewPlayer(MediaListener& listener) override;
+  std::unique_ptr<MediaPlayer> NewPlayer(const std::string& name, MediaListener& listener) override;
 
  private:
   Decoding decoding_;

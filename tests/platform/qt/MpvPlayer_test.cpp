@@ -50,7 +50,7 @@ class MpvPlayerTest : public testing::Test {
 
   Heard heard;
   MpvEngine engine{MpvEngine::Decoding::kSoftware};
-  std::unique_ptr<MediaPlayer> player = engine.NewPlayer(heard);
+  std::unique_ptr<MediaPlayer> player = engine.NewPlayer("player", heard);
 };
 
 TEST_F(MpvPlayerTest, AFreshPlayerIsIdle) {
@@ -283,7 +283,7 @@ TEST_F(MpvPlayerTest, AnItemPlaysToItsEndWhileNobodyLooks) {
 
 TEST_F(MpvPlayerTest, APlayerMayGoInTheMidstOfAnItem) {
   for (int i = 0; i < 5; ++i) {
-    const auto brief = engine.NewPlayer(heard);
+    const auto brief = engine.NewPlayer("player", heard);
     brief->Open(test_media::Clip("midst.mp4", Qt::red, 5));
     Pass(std::chrono::milliseconds(30 * i));
   }
