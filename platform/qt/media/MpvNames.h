@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <utility>
+
+// The names that mpv knows its properties by.
+namespace mpv_names {
+
+inline constexpr char kPause[] = "pause";
+inline constexpr char kMute[] = "mute";
+inline constexpr char kVolume[] = "volume";
+inline constexpr char kTimePos[] = "time-pos";
+inline constexpr char kDuration[] = "duration";
+inline constexpr char kPausedForCache[] = "paused-for-cache";
+inline constexpr char kVideoUnscaled[] = "video-unscaled";
+inline constexpr char kHwdec[] = "hwdec";
+
+// A player is a surface and nothing else: it reads no configuration, takes no keys, draws no controls, and stays alive
+// between items.
+inline constexpr auto kOptions = std::to_array<std::pair<const char*, const char*>>({
+    {"vo", "libmpv"},
+    {"idle", "yes"},
+    {"config", "no"},
+    {"load-scripts", "no"},
+    {"ytdl", "no"},
+    {"osc", "no"},
+    {"osd-level", "0"},
+    {"terminal", "no"},
+    {"input-default-bindings", "no"},
+    {"input-builtin-bindings", "no"},
+    {"input-vo-keyboard", "no"},
+    {"input-media-keys", "no"},
+    {"resume-playback", "no"},
+    // An item is one file: nothing that lies beside it joins in.
+    {"sub-auto", "no"},
+    {"sid", "no"},
+    {"audio-file-auto", "no"},
+    {"cover-art-auto", "no"},
+    {"audio-display", "no"},
+    // The end of an item is its end, and a picture stands for 5 seconds.
+    {"keep-open", "no"},
+    {"loop-file", "no"},
+    {"loop-playlist", "no"},
+    {"image-display-duration", "5"},
+    // Frames come at the moment they are due; the rendering thread must not be held back until then.
+    {"video-timing-offset", "0"},
+    {"hr-seek", "yes"},
+    // A sound card that is missing or dead stops nothing.
+    {"audio-fallback-to-null", "yes"},
+    {"audio-client-name", "Corvanta"},
+    // A stream that runs for weeks keeps no past.
+    {"demuxer-max-back-bytes", "0"},
+    {"demuxer-max-bytes", "32MiB"},
+    {"network-timeout", "20"},
+});
+
+}  // namespace mpv_names

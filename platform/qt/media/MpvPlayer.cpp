@@ -1,0 +1,285 @@
+#include "platform/qt/media/MpvPlayer.h"
+
+#include <filesystem>
+#include <string_view>
+
+#include "platform/qt/media/MpvNames.h"
+
+namespace {
+
+bool HasScheme(const std::string& url) {
+  const std::size_t end = url.find("://");
+  if (end == std::string::npos || end == 0) return false;
+  return url.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+.-") == end;
+}
+
+// Opening a pipe or a device would wait for somebody to write to it, perhaps for ever.
+bool MayBeOpened(const std::string& url) {
+  std::error_code failed;
+  return HasScheme(url) || std::filesystem::is_regular_file(std::filesystem::path(url), failed);
+}
+
+// mpv reads some names as addresses of its own; a name that begins with the root never is one.
+std::string ForMpv(const std::string& url) {
+  std::error_code failed;
+  return HasScheme(url) ? url : std::filesystem::absolute(url, failed).string();
+}
+
+std::optional<std::int64_t> EntryOf(const mpv_node& result) {
+  if (result.format != MPV_FORMAT_NODE_MAP) return std::nullopt;
+  const mpv_node_list& list = *result.u.list;
+  for (int i = 0; i < list.num; ++i) {
+    if (std::string_view(list.keys[i]) == "playlist_entry_id") return list.values[i].u.int64;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+MpvPlayer::MpvPlayer(MediaListener& listener, bool hardwareDecoding)
+    : listener_(listener), hardwareDecoding_(hardwareDecoding) {}
+
+MpvPlayer::~MpvPlayer() = default;
+
+void MpvPlayer::MakeInstance() {
+  if (mpv_) return;
+  mpv_ = std::make_unique<MpvInstance>(frames_.Exchange(), hardwareDecoding_, [this] {
+    if (eventsWait_.exchange(true)) return;
+    QMetaObject::invokeMethod(this, &MpvPlayer::FetchEvents, Qt::QueuedConnection);
+  });
+  mpv_->Observe(mpv_names::kTimePos, MPV_FORMAT_DOUBLE);
+  mpv_->Observe(mpv_names::kDuration, MPV_FORMAT_DOUBLE);
+  mpv_->Observe(mpv_names::kPausedForCache, MPV_FORMAT_FLAG);
+  SetMute(mute_);
+  SetVolume(volume_);
+  SetStretchToFit(stretch_);
+}
+
+void MpvPlayer::Open(const std::string& url) {
+  Forget();
+  url_ = url;
+  wish_.reset();
+  duration_ = 0;
+  if (MayBeOpened(url)) {
+    Load();
+    return;
+  }
+  Close();
+  Enter(url.empty() ? PlayState::kUndefined : PlayState::kReady);
+}
+
+void MpvPlayer::Load() {
+  MakeInstance();
+  paused_ = false;
+  mpv_->Set(mpv_names::kPause, false);
+  loadTicket_ = ++lastTicket_;
+  mpv_->Command({"loadfile", ForMpv(url_), "replace"}, loadTicket_);
+  Enter(PlayState::kTransitioning);
+}
+
+// From here on nothing that mpv still has to tell of the item counts.
+void MpvPlayer::Forget() {
+  loadTicket_ = durationTicket_ = seekTicket_ = 0;
+  entries_ = {};
+  current_ = open_ = running_ = buffering_ = seekQueued_ = false;
+  position_ = 0;
+  frames_.SetLive(false);
+}
+
+void MpvPlayer::Close() {
+  if (mpv_) mpv_->Command({"stop"});
+}
+
+void MpvPlayer::Play() {
+  if (loadTicket_ != 0) {
+    paused_ = false;
+    mpv_->Set(mpv_names::kPause, false);
+    if (open_) EnterPlaying();
+  } else if (MayBeOpened(url_)) {
+    Load();
+  }
+}
+
+void MpvPlayer::Pause() {
+  if (loadTicket_ == 0) return;
+  paused_ = true;
+  mpv_->Set(mpv_names::kPause, true);
+  if (open_) EnterPlaying();
+}
+
+void MpvPlayer::Stop() {
+  if (loadTicket_ == 0) return;
+  Forget();
+  wish_.reset();
+  Close();
+  Enter(PlayState::kStopped);
+}
+
+double MpvPlayer::Position() const { return wish_.value_or(position_); }
+
+void MpvPlayer::SetPosition(double seconds) {
+  if (url_.empty()) return;
+  wish_ = std::max(seconds, 0.0);
+  if (open_) Seek();
+}
+
+void MpvPlayer::Seek() {
+  seekQueued_ = false;
+  seekTicket_ = ++lastTicket_;
+  mpv_->Command({"seek", std::to_string(*wish_), "absolute+exact"}, seekTicket_);
+}
+
+std::string MpvPlayer::Status() const {
+  switch (state_) {
+    case PlayState::kStopped:
+      return "Stopped";
+    case PlayState::kPaused:
+      return "Paused";
+    case PlayState::kPlaying:
+      return "Playing";
+    case PlayState::kBuffering:
+      return "Buffering";
+    case PlayState::kMediaEnded:
+      return "Finished";
+    case PlayState::kTransitioning:
+      return "Connecting...";
+    case PlayState::kUndefined:
+    case PlayState::kReady:
+      break;
+  }
+  return "";
+}
+
+void MpvPlayer::SetMute(bool mute) {
+  mute_ = mute;
+  if (mpv_) mpv_->Set(mpv_names::kMute, mute);
+}
+
+void MpvPlayer::SetVolume(int percent) {
+  volume_ = percent;
+  if (mpv_) mpv_->Set(mpv_names::kVolume, static_cast<double>(percent));
+}
+
+void MpvPlayer::SetStretchToFit(bool stretch) {
+  stretch_ = stretch;
+  if (mpv_) mpv_->Set(mpv_names::kVideoUnscaled, stretch ? "no" : "downscale-big");
+}
+
+// The listener hears of it after the call or the event that brought it is over: it may well open the next item, or end
+// this player.
+void MpvPlayer::Enter(PlayState state) {
+  if (state == state_) return;
+  state_ = state;
+  QMetaObject::invokeMethod(
+      this, [this, state] { listener_.PlayStateChanged(state); }, Qt::QueuedConnection);
+}
+
+void MpvPlayer::EnterPlaying() {
+  if (paused_) {
+    Enter(PlayState::kPaused);
+  } else if (buffering_) {
+    Enter(PlayState::kBuffering);
+  } else {
+    Enter(running_ ? PlayState::kPlaying : PlayState::kTransitioning);
+  }
+}
+
+void MpvPlayer::FetchEvents() {
+  eventsWait_ = false;
+  for (;;) {
+    const mpv_event& event = mpv_->NextEvent();
+    if (event.event_id == MPV_EVENT_NONE) return;
+    Handle(event);
+  }
+}
+
+void MpvPlayer::Handle(const mpv_event& event) {
+  switch (event.event_id) {
+    case MPV_EVENT_COMMAND_REPLY:
+    case MPV_EVENT_GET_PROPERTY_REPLY:
+      return Replied(event);
+    case MPV_EVENT_START_FILE:
+      return Started(*static_cast<const mpv_event_start_file*>(event.data));
+    case MPV_EVENT_FILE_LOADED:
+      return Loaded();
+    case MPV_EVENT_PLAYBACK_RESTART:
+      return Restarted();
+    case MPV_EVENT_END_FILE:
+      return Ended(*static_cast<const mpv_event_end_file*>(event.data));
+    case MPV_EVENT_PROPERTY_CHANGE:
+      return Tell(*static_cast<const mpv_event_property*>(event.data));
+    default:
+      return;
+  }
+}
+
+void MpvPlayer::Replied(const mpv_event& event) {
+  const std::uint64_t ticket = event.reply_userdata;
+  if (ticket == 0) return;
+  if (ticket == loadTicket_) {
+    const auto entry = EntryOf(static_cast<const mpv_event_command*>(event.data)->result);
+    if (event.error >= 0 && entry) entries_ = {*entry, *entry};
+  } else if (ticket == seekTicket_) {
+    if (event.error >= 0) {
+      seekQueued_ = true;
+    } else {
+      wish_.reset();  // a stream that cannot be wound
+    }
+  } else if (ticket == durationTicket_) {
+    if (event.error >= 0) Tell(*static_cast<const mpv_event_property*>(event.data));
+    QMetaObject::invokeMethod(
+        this, [this] { listener_.MediaChanged(); }, Qt::QueuedConnection);
+  }
+}
+
+void MpvPlayer::Started(const mpv_event_start_file& start) { current_ = entries_.Hold(start.playlist_entry_id); }
+
+void MpvPlayer::Loaded() {
+  if (!current_) return;
+  open_ = true;
+  frames_.SetLive(true);
+  // MediaChanged promises the duration, so it waits for it.
+  durationTicket_ = ++lastTicket_;
+  mpv_->Ask(mpv_names::kDuration, MPV_FORMAT_DOUBLE, durationTicket_);
+  if (wish_) Seek();
+  EnterPlaying();
+}
+
+void MpvPlayer::Restarted() {
+  if (!current_ || !open_) return;
+  running_ = true;
+  if (seekQueued_) {
+    seekQueued_ = false;
+    position_ = wish_.value_or(position_);
+    wish_.reset();
+  }
+  EnterPlaying();
+}
+
+void MpvPlayer::Ended(const mpv_event_end_file& end) {
+  if (!entries_.Hold(end.playlist_entry_id)) return;
+  if (end.reason == MPV_END_FILE_REASON_REDIRECT) {
+    entries_ = {end.playlist_insert_id, end.playlist_insert_id + end.playlist_insert_num_entries - 1};
+    return;
+  }
+  const bool played = open_ && end.reason == MPV_END_FILE_REASON_EOF;
+  const bool last = end.playlist_entry_id == entries_.last;
+  current_ = open_ = running_ = false;
+  if (!last) return;
+  Forget();
+  wish_.reset();
+  Enter(played ? PlayState::kMediaEnded : PlayState::kReady);
+}
+
+void MpvPlayer::Tell(const mpv_event_property& property) {
+  if (!open_ || property.data == nullptr) return;
+  const std::string_view name = property.name;
+  if (name == mpv_names::kTimePos) {
+    position_ = std::max(*static_cast<double*>(property.data), 0.0);
+  } else if (name == mpv_names::kDuration) {
+    duration_ = std::max(*static_cast<double*>(property.data), 0.0);
+  } else if (name == mpv_names::kPausedForCache) {
+    buffering_ = *static_cast<int*>(property.data) != 0;
+    EnterPlaying();
+  }
+}

@@ -1,0 +1,47 @@
+#include "platform/qt/scene/ControlItem.h"
+
+#include <QMouseEvent>
+#include <cmath>
+
+int ToPixels(Twips twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
+
+std::optional<MouseButton> ToMouseButton(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return MouseButton::kLeft;
+    case Qt::RightButton:
+      return MouseButton::kRight;
+    case Qt::MiddleButton:
+      return MouseButton::kMiddle;
+    default:
+      return std::nullopt;
+  }
+}
+
+ControlItem::ControlItem(Control& control, QQuickItem& parent) : QQuickItem(&parent), control_(&control) {
+  setFlag(ItemHasContents);
+  setAcceptedMouseButtons(Qt::AllButtons);
+  setObjectName(QString::fromStdString(control.Name()));
+  for (Property<Twips>* measure : {&control.Left, &control.Top, &control.Width, &control.Height}) {
+    Follow(*measure, [this] { Place(); });
+  }
+  Follow(control.Visible, [this] { setVisible(control_->Visible); });
+  Place();
+  setVisible(control.Visible);
+}
+
+void ControlItem::Detach() {
+  following_.clear();
+  control_ = nullptr;
+}
+
+void ControlItem::Place() {
+  setPosition(QPointF(ToPixels(control_->Left), ToPixels(control_->Top)));
+  setSize(QSizeF(std::max(ToPixels(control_->Width), 0), std::max(ToPixels(control_->Height), 0)));
+}
+
+void ControlItem::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+  const auto button = ToMouseButton(event->button());
+  if (control_ != nullptr && button) control_->PressMouse(*button);
+}

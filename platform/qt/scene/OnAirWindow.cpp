@@ -1,0 +1,182 @@
+#include "platform/qt/scene/OnAirWindow.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <chrono>
+
+#include "platform/qt/scene/FlashItem.h"
+#include "platform/qt/scene/MediaItem.h"
+#include "platform/qt/scene/PaneItem.h"
+#include "platform/qt/scene/TextItem.h"
+#include "platform/toolkit/Form.h"
+#include "platform/toolkit/PlayerControl.h"
+
+namespace {
+
+// The window system answers a wish for a place with steps in between; where it stands after this is where it stays.
+constexpr std::chrono::milliseconds kToSettle{300};
+
+ControlItem* NewItem(Control& control, QQuickItem& parent, Scene& scene) {
+  if (auto* pane = dynamic_cast<PictureBox*>(&control)) return new PaneItem(*pane, parent, scene);
+  if (auto* text = dynamic_cast<PaneText*>(&control)) return new TextItem(*text, parent);
+  if (auto* box = dynamic_cast<FlashBox*>(&control)) return new FlashItem(*box, parent, scene);
+  if (auto* player = dynamic_cast<PlayerControl*>(&control)) return new MediaItem(*player, parent, scene);
+  return nullptr;
+}
+
+// What is behind all panes: the form itself.
+class FormItem : public QQuickItem {
+ public:
+  FormItem(std::function<void(MouseButton)> pressed, QQuickItem& parent)
+      : QQuickItem(&parent), pressed_(std::move(pressed)) {
+    setAcceptedMouseButtons(Qt::AllButtons);
+    connect(&parent, &QQuickItem::widthChanged, this, [this] { setWidth(parentItem()->width()); });
+    connect(&parent, &QQuickItem::heightChanged, this, [this] { setHeight(parentItem()->height()); });
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (const auto button = ToMouseButton(event->button())) pressed_(*button);
+  }
+
+ private:
+  std::function<void(MouseButton)> pressed_;
+};
+
+QRect PlaceOf(const Form& form) {
+  return {ToPixels(form.Left), ToPixels(form.Top), std::max(ToPixels(form.Width), 1),
+          std::max(ToPixels(form.Height), 1)};
+}
+
+}  // namespace
+
+OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene), window_(new QQuickWindow) {
+  QSurfaceFormat format = window_->format();
+  format.setAlphaBufferSize(0);
+  window_->setFormat(format);
+  window_->setColor(Qt::black);
+  window_->setFlags(Qt::Window | Qt::FramelessWindowHint);
+  window_->setProperty("_q_showWithoutActivating", true);
+  window_->installEventFilter(this);
+  new FormItem(
+      [self = QPointer(this)](MouseButton button) {
+        if (self) self->form_.PressMouse(button);
+      },
+      *window_->contentItem());
+  Mirror(form.Controls(), *window_->contentItem());
+
+  for (QTimer* timer : {&placeIsDue_, &settled_}) timer->setSingleShot(true);
+  settled_.setInterval(kToSettle);
+  connect(&placeIsDue_, &QTimer::timeout, this, &OnAirWindow::ApplyPlace);
+  connect(&settled_, &QTimer::timeout, this, &OnAirWindow::AdoptPlace);
+  for (Property<Twips>* measure : {&form.Left, &form.Top, &form.Width, &form.Height}) {
+    following_.push_back(measure->Changed.Subscribe([this] { placeIsDue_.start(0); }));
+  }
+  const auto title = [this] { window_->setTitle(QString::fromStdString(form_.Caption)); };
+  const auto onTop = [this] { window_->setFlag(Qt::WindowStaysOnTopHint, form_.OnTop); };
+  const auto visible = [this] {
+    ApplyPlace();
+    window_->setVisible(form_.Visible);
+  };
+  following_.push_back(form.Caption.Changed.Subscribe(title));
+  following_.push_back(form.OnTop.Changed.Subscribe(onTop));
+  following_.push_back(form.Visible.Changed.Subscribe(visible));
+  title();
+  onTop();
+  visible();
+}
+
+// The form may be unloaded by what the window is handling this very moment.
+OnAirWindow::~OnAirWindow() {
+  for (ControlItem* item : items_) item->Detach();
+  window_->removeEventFilter(this);
+  window_->hide();
+  window_->deleteLater();
+}
+
+void OnAirWindow::Mirror(const std::vector<Control*>& controls, QQuickItem& parent) {
+  // Above zero throughout: an item below zero would stand behind its own pane's colour.
+  auto z = static_cast<qreal>(controls.size());
+  for (Control* control : controls) {
+    ControlItem* item = NewItem(*control, parent, scene_);
+    if (item == nullptr) continue;
+    item->setZ(z--);
+    items_.push_back(item);
+    Mirror(control->Children(), *item);
+  }
+}
+
+void OnAirWindow::ApplyPlace() {
+  placeIsDue_.stop();
+  const QRect place = PlaceOf(form_);
+  if (window_->geometry() != place) window_->setGeometry(place);
+}
+
+void OnAirWindow::AdoptPlace() {
+  if (!window_->isVisible() || placeIsDue_.isActive()) return;
+  const QRect wanted = PlaceOf(form_);
+  const QRect actual = window_->geometry();
+  const auto adopt = [](Property<Twips>& measure, int wish, int is) {
+    if (wish != is) measure = is * kTwipsPerPixel;
+  };
+  adopt(form_.Left, wanted.x(), actual.x());
+  adopt(form_.Top, wanted.y(), actual.y());
+  adopt(form_.Width, wanted.width(), actual.width());
+  adopt(form_.Height, wanted.height(), actual.height());
+}
+
+void OnAirWindow::DragWindow(std::function<void()> done) {
+  const QPoint from = window_->position();
+  drag_ = {pressedAt_,
+           [this, from](QPoint moved) {
+             form_.Left = (from.x() + moved.x()) * kTwipsPerPixel;
+             form_.Top = (from.y() + moved.y()) * kTwipsPerPixel;
+           },
+           std::move(done)};
+}
+
+void OnAirWindow::DragPane(Control& pane, std::function<void()> done) {
+  drag_ = {pressedAt_,
+           [&pane, left = pane.Left.Get(), top = pane.Top.Get()](QPoint moved) {
+             pane.Left = left + moved.x() * kTwipsPerPixel;
+             pane.Top = top + moved.y() * kTwipsPerPixel;
+           },
+           std::move(done)};
+}
+
+void OnAirWindow::EndDrag() {
+  const Drag ended = std::exchange(drag_, {});
+  if (ended.done) ended.done();
+}
+
+bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+      settled_.start();
+      break;
+    case QEvent::Close:
+      event->ignore();
+      form_.Close();
+      return true;
+    case QEvent::MouseButtonPress:
+      pressedAt_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+      break;
+    case QEvent::MouseMove:
+      if (!drag_.move) break;
+      if (const auto* mouse = static_cast<QMouseEvent*>(event); mouse->buttons() == Qt::NoButton) {
+        EndDrag();  // the release was lost
+      } else {
+        drag_.move(mouse->globalPosition().toPoint() - drag_.pressedAt);
+      }
+      return true;
+    case QEvent::MouseButtonRelease:
+      if (drag_.move) EndDrag();
+      break;
+    default:
+      break;
+  }
+  return QObject::eventFilter(object, event);
+}

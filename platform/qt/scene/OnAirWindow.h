@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "platform/Windows.h"
+#include "platform/qt/scene/Scene.h"
+#include "platform/toolkit/Event.h"
+
+class ControlItem;
+class QQuickItem;
+class QQuickWindow;
+
+// The real window behind an on-air form: borderless, one scene that mirrors the form's panes. It never takes the
+// keyboard by being shown.
+class OnAirWindow : public QObject, public FormWindow {
+ public:
+  // `scene` must outlive it, and so must the form.
+  OnAirWindow(Form& form, Scene& scene);
+  ~OnAirWindow() override;
+
+  void Focus(const Control&) override {}
+  void DragWindow(std::function<void()> done) override;
+  void DragPane(Control& pane, std::function<void()> done) override;
+
+  // For those that look at pixels.
+  QQuickWindow* Window() const { return window_; }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  // A drag that the pointer carries out: what it moves, from where, and what follows.
+  struct Drag {
+    QPoint pressedAt;
+    std::function<void(QPoint moved)> move;
+    std::function<void()> done;
+  };
+
+  void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
+  void ApplyPlace();
+  void AdoptPlace();
+  void EndDrag();
+
+  Form& form_;
+  Scene& scene_;
+  QQuickWindow* window_;  // outlives this object until the event that it may be handling is over
+  std::vector<ControlItem*> items_;
+  std::vector<Subscription> following_;
+  QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
+  QTimer settled_;     // takes the window's place over into the form when it has come to rest
+  QPoint pressedAt_;   // where on the screen a button went down last
+  Drag drag_;
+};

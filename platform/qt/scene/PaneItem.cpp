@@ -1,0 +1,53 @@
+#include "platform/qt/scene/PaneItem.h"
+
+#include <QQuickWindow>
+#include <QSGRectangleNode>
+
+namespace {
+
+QColor ToColour(const Colour& colour) { return {colour.red, colour.green, colour.blue}; }
+
+}  // namespace
+
+PaneItem::PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene)
+    : ControlItem(pane, parent), pane_(pane), scene_(scene), colour_(ToColour(pane.BackColor)) {
+  setClip(true);
+  Follow(pane.BackColor, [this] {
+    colour_ = ToColour(pane_.BackColor);
+    update();
+  });
+  Follow(pane.Picture, [this] { LoadPicture(); });
+  if (!pane.Picture.Get().path.empty()) LoadPicture();
+}
+
+// The former picture stays until the new one is decoded. Of two loads in a row the later one counts, whichever is
+// ready first.
+void PaneItem::LoadPicture() {
+  const LoadedPicture& wanted = pane_.Picture;
+  load_ = wanted.load;
+  const auto show = [this, load = wanted.load](SharedPicture picture) {
+    if (load != load_ || picture == picture_) return;
+    picture_ = std::move(picture);
+    pictureIsNew_ = true;
+    update();
+  };
+  if (wanted.path.empty()) {
+    show(nullptr);
+  } else {
+    scene_.pictures.Load(QString::fromStdString(wanted.path), {}, this, show);
+  }
+}
+
+QSGNode* PaneItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+  auto* node = static_cast<QSGRectangleNode*>(old);
+  if (node == nullptr) {
+    node = window()->createRectangleNode();
+    pictureIsNew_ = true;
+  }
+  node->setColor(colour_);
+  node->setRect(boundingRect());
+  if (std::exchange(pictureIsNew_, false)) {
+    if (QSGNode* shown = PictureNode(node->firstChild(), picture_, window())) node->appendChildNode(shown);
+  }
+  return node;
+}

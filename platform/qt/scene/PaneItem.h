@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/qt/scene/ControlItem.h"
+#include "platform/qt/scene/PictureLoader.h"
+#include "platform/toolkit/Panes.h"
+
+// A pane: its colour, its picture over it, and over that what it holds, all cut off at its edge.
+class PaneItem : public ControlItem {
+ public:
+  PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene);
+
+ protected:
+  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;
+
+ private:
+  void LoadPicture();
+
+  PictureBox& pane_;
+  Scene& scene_;
+  QColor colour_;
+  SharedPicture picture_;
+  bool pictureIsNew_ = false;
+  int load_ = 0;
+};

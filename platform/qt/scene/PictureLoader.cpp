@@ -1,0 +1,100 @@
+#include "platform/qt/scene/PictureLoader.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <algorithm>
+
+namespace {
+
+constexpr int kColumnWidth = 2048;
+constexpr qint64 kKeptBytes = 96 * 1024 * 1024;
+constexpr int kDecodedMegabytes = 512;  // of one picture; a file that claims more is none
+
+qint64 BytesOf(const Picture& picture) { return qint64{4} * picture.size.width() * picture.size.height(); }
+
+SharedPicture Decode(const QString& path, QSize scaledTo) {
+  QImageReader reader(path);
+  reader.setDecideFormatFromContent(true);
+  QImage image = reader.read();
+  if (image.isNull()) return nullptr;
+  if (!scaledTo.isEmpty() && image.size() != scaledTo) {
+    image = image.scaled(scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  }
+  image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+  image.setDevicePixelRatio(1);
+  auto picture = std::make_shared<Picture>();
+  picture->size = image.size();
+  if (image.width() <= kColumnWidth) {
+    picture->columns.push_back({0, image});
+    return picture;
+  }
+  for (int x = 0; x < image.width(); x += kColumnWidth) {
+    picture->columns.push_back({x, image.copy(x, 0, std::min(kColumnWidth, image.width() - x), image.height())});
+  }
+  return picture;
+}
+
+}  // namespace
+
+QSGNode* PictureNode(QSGNode* old, const SharedPicture& picture, QQuickWindow* window) {
+  delete old;
+  if (!picture) return nullptr;
+  auto* node = new QSGNode;
+  for (const Picture::Column& column : picture->columns) {
+    QSGImageNode* image = window->createImageNode();
+    const bool seeThrough = column.image.hasAlphaChannel();
+    image->setTexture(window->createTextureFromImage(
+        column.image, seeThrough ? QQuickWindow::TextureHasAlphaChannel : QQuickWindow::TextureIsOpaque));
+    image->setOwnsTexture(true);
+    image->setFiltering(QSGTexture::Nearest);
+    image->setRect(column.x, 0, column.image.width(), column.image.height());
+    node->appendChildNode(image);
+  }
+  return node;
+}
+
+PictureLoader::PictureLoader() {
+  QImageReader::setAllocationLimit(kDecodedMegabytes);
+  thread_.setMaxThreadCount(1);
+  thread_.setObjectName("pictures");
+}
+
+PictureLoader::~PictureLoader() {
+  thread_.clear();
+  thread_.waitForDone();
+}
+
+void PictureLoader::Load(const QString& path, QSize size, QObject* receiver, Done done) {
+  const QFileInfo file(path);
+  const Key key{path, size, file.lastModified().toMSecsSinceEpoch(), file.size()};
+  const auto kept = std::ranges::find(kept_, key, &Kept::key);
+  if (kept != kept_.end()) {
+    kept_.splice(kept_.begin(), kept_, kept);
+    const SharedPicture picture = kept->picture;
+    done(picture);
+    return;
+  }
+  thread_.start([this, key, receiver = QPointer(receiver), done = std::move(done)] {
+    SharedPicture picture = Decode(key.path, key.scaledTo);
+    QMetaObject::invokeMethod(
+        this,
+        [this, key, receiver, done, picture] {
+          if (picture) Keep(key, picture);
+          if (receiver) done(picture);
+        },
+        Qt::QueuedConnection);
+  });
+}
+
+void PictureLoader::Keep(const Key& key, const SharedPicture& picture) {
+  kept_.push_front({key, picture});
+  qint64 bytes = 0;
+  const auto tooMuch = std::ranges::find_if(kept_, [&bytes](const Kept& one) {
+    bytes += BytesOf(*one.picture);
+    return bytes > kKeptBytes;
+  });
+  kept_.erase(tooMuch, kept_.end());
+}

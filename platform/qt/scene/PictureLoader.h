@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QThreadPool>
+#include <functional>
+#include <list>
+#include <memory>
+#include <vector>
+
+class QSGNode;
+class QQuickWindow;
+
+// A decoded picture, cut into columns: a crawl may be wider than a painter or a texture can be.
+struct Picture {
+  struct Column {
+    int x = 0;
+    QImage image;
+  };
+  std::vector<Column> columns;
+  QSize size;
+};
+
+using SharedPicture = std::shared_ptr<const Picture>;
+
+// The node that shows a picture from the item's left top corner at its own size; null for no picture. `old` is what
+// the item's last call gave, and is spent.
+QSGNode* PictureNode(QSGNode* old, const SharedPicture& picture, QQuickWindow* window);
+
+// Decodes pictures in a thread of its own, one after the other, and keeps the latest ones: a crawl that starts anew is
+// there at once.
+class PictureLoader : public QObject {
+ public:
+  using Done = std::function<void(SharedPicture)>;
+
+  PictureLoader();
+  // Waits for the picture that is being decoded.
+  ~PictureLoader() override;
+
+  // Calls `done` with the picture of a file, scaled to `size` unless that is empty: at once when it is at hand, later
+  // otherwise, and then only if `receiver` still lives. Null: the file is no picture.
+  void Load(const QString& path, QSize size, QObject* receiver, Done done);
+
+ private:
+  struct Key {
+    QString path;
+    QSize scaledTo;
+    qint64 changed = 0;
+    qint64 bytes = 0;
+    bool operator==(const Key&) const = default;
+  };
+  struct Kept {
+    Key key;
+    SharedPicture picture;
+  };
+
+  void Keep(const Key& key, const SharedPicture& picture);
+
+  std::list<Kept> kept_;  // the latest used first
+  QThreadPool thread_;    // "pictures"; nobody waits for it but the destructor
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+class PictureLoader;
+class QtScheduler;
+
+// What all items of the on-air windows share; it outlives them.
+struct Scene {
+  QtScheduler& scheduler;
+  PictureLoader& pictures;
+};

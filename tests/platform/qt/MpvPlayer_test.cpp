@@ -1,0 +1,309 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <memory>
+#include <vector>
+
+#include "platform/qt/media/FrameSource.h"
+#include "platform/qt/media/MpvEngine.h"
+#include "tests/platform/qt/TestMedia.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class Heard : public MediaListener {
+ public:
+  void PlayStateChanged(PlayState state) override { states.push_back(state); }
+  void MediaChanged() override { ++opened; }
+  int Times(PlayState state) const { return static_cast<int>(std::ranges::count(states, state)); }
+
+  std::vector<PlayState> states;
+  int opened = 0;
+};
+
+class MpvPlayerTest : public testing::Test {
+ protected:
+  bool Reaches(PlayState state) {
+    return Until([&] {
+      return player->State() == state && (heard.states.empty() || heard.states.back() == state);
+    });
+  }
+  // The colour at a place of the picture once it has become what is expected; otherwise what it is in the end.
+  QColor ColourAt(QPoint place, const QColor& expected) {
+    QColor seen;
+    Until(
+        [&] {
+          if (const auto frame = Source().Take(); frame && !frame->isNull()) seen = frame->pixelColor(place);
+          return Near(seen, expected);
+        },
+        5s);
+    return seen;
+  }
+  static bool Near(const QColor& one, const QColor& other) {
+    return one.isValid() && std::abs(one.red() - other.red()) < 24 && std::abs(one.green() - other.green()) < 24 &&
+           std::abs(one.blue() - other.blue()) < 24;
+  }
+  FrameSource& Source() { return dynamic_cast<ShowsFrames&>(*player).Frames(); }
+
+  Heard heard;
+  MpvEngine engine{MpvEngine::Decoding::kSoftware};
+  std::unique_ptr<MediaPlayer> player = engine.NewPlayer("player", heard);
+};
+
+TEST_F(MpvPlayerTest, AFreshPlayerIsIdle) {
+  EXPECT_EQ(player->State(), PlayState::kUndefined);
+  EXPECT_EQ(player->Status(), "");
+  EXPECT_EQ(player->Position(), 0);
+  EXPECT_EQ(player->Duration(), 0);
+  EXPECT_FALSE(player->IsOpen());
+}
+
+TEST_F(MpvPlayerTest, AnItemPlaysToItsEndAndIsReportedEndedOnce) {
+  player->Open(test_media::Clip("short.mp4", Qt::red, 0.6));
+  ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
+  Pass(100ms);
+  EXPECT_EQ(heard.states,
+            (std::vector{PlayState::kTransitioning, PlayState::kPlaying, PlayState::kMediaEnded}));
+  EXPECT_EQ(heard.opened, 1);
+  EXPECT_EQ(player->Status(), "Finished");
+  EXPECT_NEAR(player->Duration(), 0.6, 0.1);
+}
+
+TEST_F(MpvPlayerTest, TheDurationIsKnownWhenTheMediaChangeIsHeard) {
+  player->Open(test_media::Clip("ten.mp4", Qt::red, 10));
+  ASSERT_TRUE(Until([&] { return heard.opened == 1; }));
+  EXPECT_NEAR(player->Duration(), 10, 0.2);
+  EXPECT_TRUE(player->IsOpen());
+}
+
+TEST_F(MpvPlayerTest, AToneAlonePlaysAndEndsLikeAnyOtherItem) {
+  player->Open(test_media::Tone("tone.wav", 0.4));
+  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
+  EXPECT_EQ(heard.Times(PlayState::kPlaying), 1);
+}
+
+TEST_F(MpvPlayerTest, APictureStandsForFiveSecondsAndEnds) {
+  player->Open(test_media::Picture("picture.jpg", Qt::green, {64, 64}));
+  Source().SetTarget({64, 64});
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  QElapsedTimer standing;
+  standing.start();
+  EXPECT_TRUE(Near(ColourAt({32, 32}, Qt::green), Qt::green));
+  ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
+  EXPECT_GT(standing.elapsed(), 4000);
+}
+
+TEST_F(MpvPlayerTest, AnotherItemInItsPlaceIsNoEnd) {
+  player->Open(test_media::Clip("first.mp4", Qt::red, 5));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->Open(test_media::Clip("second.mp4", Qt::blue, 0.5));
+  EXPECT_EQ(player->State(), PlayState::kTransitioning);
+  ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
+  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 1);
+  EXPECT_EQ(heard.Times(PlayState::kPlaying), 2);
+}
+
+TEST_F(MpvPlayerTest, TheEndOfAFormerItemIsNotTakenForThatOfTheNext) {
+  const std::string brief = test_media::Clip("brief.mp4", Qt::red, 0.2);
+  const std::string lasting = test_media::Clip("lasting.mp4", Qt::blue, 20);
+  for (int i = 0; i < 20; ++i) {
+    player->Open(brief);
+    Pass(std::chrono::milliseconds(20 * i));
+    player->Open(lasting);
+    heard = {};
+    ASSERT_TRUE(Until([&] { return heard.opened == 1; }));
+    EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
+    EXPECT_NEAR(player->Duration(), 20, 0.2);
+  }
+}
+
+TEST_F(MpvPlayerTest, AStopIsNoEnd) {
+  player->Open(test_media::Clip("stopped.mp4", Qt::red, 5));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->Stop();
+  EXPECT_EQ(player->State(), PlayState::kStopped);
+  EXPECT_EQ(player->Position(), 0);
+  Pass(300ms);
+  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
+  EXPECT_EQ(player->Status(), "Stopped");
+}
+
+TEST_F(MpvPlayerTest, PlayAfterAStopStartsTheItemAgain) {
+  player->Open(test_media::Clip("again.mp4", Qt::red, 5));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->Stop();
+  player->Play();
+  EXPECT_TRUE(Reaches(PlayState::kPlaying));
+}
+
+TEST_F(MpvPlayerTest, APausedItemGoesOnFromWhereItStood) {
+  player->Open(test_media::Clip("pause.mp4", Qt::red, 10));
+  player->SetPosition(4);
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->Pause();
+  ASSERT_TRUE(Reaches(PlayState::kPaused));
+  Pass(200ms);
+  const double stood = player->Position();
+  Pass(400ms);
+  EXPECT_EQ(player->Position(), stood);
+  player->Play();
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  ASSERT_TRUE(Until([&] { return player->Position() > stood; }));
+  EXPECT_LT(player->Position(), stood + 1);
+}
+
+TEST_F(MpvPlayerTest, ASeekBeforeTheFileIsOpenIsKeptAndCarriedOut) {
+  player->Open(test_media::Clip("resume.mp4", Qt::red, 30));
+  player->SetPosition(20);
+  EXPECT_EQ(player->Position(), 20);
+  bool wentBack = false;
+  ASSERT_TRUE(Until([&] {
+    wentBack = wentBack || player->Position() < 19.9;
+    return player->Position() > 20.3;
+  }));
+  EXPECT_FALSE(wentBack) << "who records the position meanwhile would record the start";
+  EXPECT_LT(player->Position(), 22);
+}
+
+TEST_F(MpvPlayerTest, ASeekBeyondTheEndEndsTheItem) {
+  player->Open(test_media::Clip("beyond.mp4", Qt::red, 10));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->SetPosition(1000);
+  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
+}
+
+TEST_F(MpvPlayerTest, WhatIsNoMediaRaisesNoEnd) {
+  const std::string clip = test_media::Clip("whole.mp4", Qt::red, 2);
+  const std::vector<std::string> files{
+      test_media::PathOf("absent.mp4"),
+      test_media::PathOf(""),
+      test_media::Text("empty.mp4", ""),
+      test_media::Text("text.mp4", "Nothing to see here.\nAnd nothing to hear.\n"),
+      test_media::Text("text.txt", "Nothing to see here.\nAnd nothing to hear.\n"),
+      test_media::Text("words.srt", "1\n00:00:01,000 --> 00:00:02,000\nWords alone.\n\n"),
+      test_media::FirstPart("headless.mp4", clip, 0.3),
+  };
+  for (const std::string& file : files) {
+    player->Open(file);
+    EXPECT_TRUE(Reaches(PlayState::kReady)) << file;
+    Pass(200ms);
+    EXPECT_FALSE(player->IsOpen()) << file;
+  }
+  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
+  EXPECT_EQ(heard.opened, 0);
+  player->Open(clip);
+  EXPECT_TRUE(Reaches(PlayState::kPlaying)) << "a good item after bad ones";
+}
+
+TEST_F(MpvPlayerTest, APipeIsRefusedAtOnce) {
+  const std::string pipe = test_media::PathOf("pipe.mp4");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  player->Open(test_media::Clip("before.mp4", Qt::red, 5));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  player->Open(pipe);
+  EXPECT_EQ(player->State(), PlayState::kReady);
+  Pass(200ms);
+  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
+}
+
+TEST_F(MpvPlayerTest, AFileCutShortPlaysWhatItHasAndEnds) {
+  const std::string whole = test_media::Clip("whole.mkv", Qt::red, 4, {640, 360});
+  player->Open(test_media::FirstPart("cut.mkv", whole, 0.4));
+  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
+}
+
+TEST_F(MpvPlayerTest, NamesWithEverySignPlay) {
+  for (const std::string name : {"100% a b.c.mp4", "-o.mp4", "Привет #1.mp4", "file:x.mp4", "a\\b.mp4"}) {
+    player->Open(test_media::Clip(name, Qt::red, 1));
+    EXPECT_TRUE(Until([&] { return player->IsOpen(); }, 5s)) << name;
+  }
+}
+
+TEST_F(MpvPlayerTest, ThePictureIsRenderedAtTheSizeOfTheSurface) {
+  Source().SetTarget({200, 200});
+  player->SetStretchToFit(true);
+  player->Open(test_media::Clip("sized.mp4", Qt::red, 10));
+  EXPECT_TRUE(Near(ColourAt({100, 100}, Qt::red), Qt::red));
+  EXPECT_TRUE(Near(ColourAt({100, 5}, Qt::black), Qt::black)) << "it keeps its proportions";
+}
+
+TEST_F(MpvPlayerTest, ASmallPictureIsScaledUpOnlyWhenStretched) {
+  Source().SetTarget({320, 180});
+  player->Open(test_media::Clip("small.mp4", Qt::red, 10, {160, 90}));
+  ASSERT_TRUE(Near(ColourAt({160, 90}, Qt::red), Qt::red));
+  EXPECT_TRUE(Near(ColourAt({10, 10}, Qt::black), Qt::black));
+  player->SetStretchToFit(true);
+  EXPECT_TRUE(Near(ColourAt({10, 10}, Qt::red), Qt::red));
+}
+
+TEST_F(MpvPlayerTest, ALargePictureIsAlwaysScaledDown) {
+  Source().SetTarget({160, 90});
+  player->Open(test_media::Clip("large.mp4", Qt::red, 10));
+  EXPECT_TRUE(Near(ColourAt({80, 45}, Qt::red), Qt::red));
+  EXPECT_TRUE(Near(ColourAt({2, 2}, Qt::red), Qt::red));
+}
+
+TEST_F(MpvPlayerTest, AnEndedItemLeavesBlack) {
+  Source().SetTarget({64, 36});
+  player->Open(test_media::Clip("black.mp4", Qt::red, 0.5));
+  ASSERT_TRUE(Near(ColourAt({32, 18}, Qt::red), Qt::red));
+  bool black = false;
+  ASSERT_TRUE(Until([&] {
+    if (const auto frame = Source().Take()) black = frame->isNull();
+    return player->State() == PlayState::kMediaEnded && black;
+  }));
+  Pass(300ms);
+  EXPECT_FALSE(Source().Take().has_value());
+}
+
+TEST_F(MpvPlayerTest, APausedPictureIsRenderedAnewForAnotherSize) {
+  Source().SetTarget({64, 36});
+  player->Open(test_media::Clip("resized.mp4", Qt::red, 10));
+  ASSERT_TRUE(Near(ColourAt({32, 18}, Qt::red), Qt::red));
+  player->Pause();
+  ASSERT_TRUE(Reaches(PlayState::kPaused));
+  Pass(200ms);
+  Source().Take();
+  Source().SetTarget({128, 72});
+  EXPECT_TRUE(Near(ColourAt({100, 60}, Qt::red), Qt::red));
+}
+
+TEST_F(MpvPlayerTest, AnItemPlaysToItsEndWhileNobodyLooks) {
+  Source().SetTarget({});
+  player->Open(test_media::Clip("unseen.mp4", Qt::red, 1));
+  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  QElapsedTimer playing;
+  playing.start();
+  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
+  EXPECT_LT(playing.elapsed(), 5000);
+}
+
+TEST_F(MpvPlayerTest, APlayerMayGoInTheMidstOfAnItem) {
+  for (int i = 0; i < 5; ++i) {
+    const auto brief = engine.NewPlayer("player", heard);
+    brief->Open(test_media::Clip("midst.mp4", Qt::red, 5));
+    Pass(std::chrono::milliseconds(30 * i));
+  }
+}
+
+TEST_F(MpvPlayerTest, AnAddressThatNeverAnswersHoldsUpNobody) {
+  QTcpServer silent;  // takes the connection and says nothing
+  ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+  QElapsedTimer call;
+  call.start();
+  player->Open("http://127.0.0.1:" + std::to_string(silent.serverPort()) + "/never.mp4");
+  player->SetPosition(5);
+  player->Pause();
+  player->Play();
+  EXPECT_EQ(player->State(), PlayState::kTransitioning);
+  Pass(300ms);
+  EXPECT_EQ(player->Status(), "Connecting...");
+  player->Stop();
+  player.reset();
+  EXPECT_LT(call.elapsed(), 5000);
+}
+
+}  // namespace
