@@ -1,0 +1,41 @@
+#include "platform/qt/desktop/QtDesktop.h"
+
+#include <unistd.h>
+
+#include <QCursor>
+#include <QGuiApplication>
+
+#include "platform/qt/desktop/AutoStart.h"
+#include "platform/qt/desktop/Xlib.h"
+
+QtDesktop::QtDesktop(std::function<void()> lastWork) : lastWork_(std::move(lastWork)) {}
+
+void QtDesktop::RunAtLogOn(const std::string& name, const std::string& command) { WriteAutoStart(name, command); }
+
+void QtDesktop::RegisterHotKey(int id, char letter, std::function<void()> pressed) {
+  hotKeys_.Register(id, letter, std::move(pressed));
+}
+
+void QtDesktop::SetScreenSaverActive(int value) {
+  if (value == 0) {
+    screenAwake_.Keep();
+  } else {
+    screenAwake_.Release();
+  }
+}
+
+void QtDesktop::SetTaskbarVisible(bool show) { taskbar_.SetVisible(show); }
+
+void QtDesktop::ShowCursor(bool show) {
+  const bool blankBefore = cursorCount_ < 0;
+  cursorCount_ += show ? 1 : -1;
+  const bool blank = cursorCount_ < 0;
+  if (blank && !blankBefore) QGuiApplication::setOverrideCursor(QCursor(Qt::BlankCursor));
+  if (!blank && blankBefore) QGuiApplication::restoreOverrideCursor();
+}
+
+void QtDesktop::EndProcess() {
+  if (lastWork_) lastWork_();
+  if (Display* display = XDisplay()) XFlush(display);  // the panels that have just been brought back
+  _exit(0);
+}

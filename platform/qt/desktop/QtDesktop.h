@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/Desktop.h"
+#include "platform/qt/desktop/HotKeys.h"
+#include "platform/qt/desktop/ScreenAwake.h"
+#include "platform/qt/desktop/Taskbar.h"
+
+// The desktop through X and the services of the session. What is missing there is left out without a word, and nothing
+// here waits for it.
+class QtDesktop : public Desktop {
+ public:
+  // `lastWork` runs before the process is ended: what must reach the disk.
+  explicit QtDesktop(std::function<void()> lastWork);
+
+  void RunAtLogOn(const std::string& name, const std::string& command) override;
+  void RegisterHotKey(int id, char letter, std::function<void()> pressed) override;
+  void SetScreenSaverActive(int value) override;
+  void SetTaskbarVisible(bool show) override;
+  void ShowCursor(bool show) override;
+  void EndProcess() override;
+
+ private:
+  std::function<void()> lastWork_;
+  HotKeys hotKeys_;
+  ScreenAwake screenAwake_;
+  Taskbar taskbar_;
+  int cursorCount_ = 0;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/qt/forms/Joint.h"
+#include "platform/qt/forms/NameView.h"
+#include "platform/qt/forms/RowView.h"
+#include "platform/toolkit/FileListBox.h"
+#include "platform/toolkit/ListView.h"
+
+struct Surfaces;
+
+// Join a list with its view, both ways.
+void Bind(Joint& joint, FileListBox& control, NameView& widget, const Surfaces& surfaces);
+
+// The layout gives the view its column titles, sample texts for the widths, and the image list, as the string list
+// properties `columnTitles`, `columnSamples` and `rowIcons`.
+void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces& surfaces);

@@ -1,0 +1,83 @@
+#include "platform/qt/forms/Binder.h"
+
+#include <QAbstractScrollArea>
+#include <algorithm>
+#include <set>
+
+#include "platform/qt/forms/Pressed.h"
+#include "platform/qt/forms/Texts.h"
+#include "platform/toolkit/Form.h"
+
+namespace {
+
+// Where presses on a widget arrive.
+QWidget& Ground(QWidget& widget) {
+  auto* scrolled = qobject_cast<QAbstractScrollArea*>(&widget);
+  return scrolled != nullptr ? *scrolled->viewport() : widget;
+}
+
+}  // namespace
+
+Binder::Binder(Joint& joint, Form& form, const Surfaces& surfaces) : joint_(joint), form_(form), surfaces_(surfaces) {
+  BindAll(form.Controls());
+}
+
+void Binder::BindAll(const std::vector<Control*>& controls) {
+  for (Control* control : controls) {
+    BindOne(*control);
+    BindAll(control->Children());
+  }
+}
+
+void Binder::BindOne(Control& control) {
+  const auto binding = std::ranges::find(Bindings(), control.Kind(), &Binding::kind);
+  if (binding == Bindings().end()) {
+    faults_.push_back(control.Name() + ": no widget shows a " + std::string(control.Kind()));
+    return;
+  }
+  auto* widget = joint_.Window().findChild<QWidget*>(Shown(control.Name()));
+  if (widget == nullptr) {
+    faults_.push_back(control.Name() + ": missing in the layout");
+    return;
+  }
+  if (!widget->metaObject()->inherits(binding->widget)) {
+    faults_.push_back(control.Name() + ": is a " + widget->metaObject()->className() + " and should be a " +
+                      binding->widget->className());
+    return;
+  }
+  widgets_[&control] = widget;
+  BindCommon(control, *widget);
+  binding->bind(joint_, control, *widget, surfaces_);
+}
+
+void Binder::BindCommon(Control& control, QWidget& widget) {
+  joint_.Follow(control.Enabled.Changed, [&control, &widget] { widget.setEnabled(control.Enabled); });
+  // A widget that is shown before its parent is would be a window of its own for a moment.
+  if (!control.Visible) widget.hide();
+  joint_.Watch(control.Visible.Changed, [&control, &widget] { widget.setVisible(control.Visible); });
+  joint_.OnEvents(&Ground(widget), [&control](QEvent& event) {
+    if (const auto button = Pressed(event)) control.PressMouse(*button);
+    return false;
+  });
+}
+
+QWidget* Binder::WidgetOf(const Control& control) const {
+  const auto found = widgets_.find(&control);
+  return found == widgets_.end() ? nullptr : found->second;
+}
+
+std::vector<std::string> Binder::Faults() const {
+  std::vector<std::string> faults = faults_;
+  AddStrangers(faults);
+  return faults;
+}
+
+void Binder::AddStrangers(std::vector<std::string>& faults) const {
+  std::set<const QWidget*> bound;
+  for (const auto& [control, widget] : widgets_) bound.insert(widget);
+  for (const QWidget* widget : joint_.Window().findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    if (name.isEmpty() || name.startsWith("lay") || name.startsWith("qt_") || bound.contains(widget)) continue;
+    faults.push_back(Stored(name) + ": in the layout, and no control of the form");
+  }
+}

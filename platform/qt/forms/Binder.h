@@ -1,0 +1,36 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/qt/forms/Bindings.h"
+#include "platform/qt/forms/Joint.h"
+
+class Form;
+
+// Joins each control of a form with the widget that bears its name, and the form's icons in the notification area with
+// those of the desktop. A control without its widget works on unseen.
+class Binder {
+ public:
+  Binder(Joint& joint, Form& form, const Surfaces& surfaces);
+
+  // Null where the layout has none.
+  QWidget* WidgetOf(const Control& control) const;
+
+  // What does not fit between form and layout, in words: a control without a widget, a widget of the wrong class, a
+  // named widget that is no control. Names that begin with "lay" are the layout's own.
+  std::vector<std::string> Faults() const;
+
+ private:
+  void BindAll(const std::vector<Control*>& controls);
+  void BindOne(Control& control);
+  void BindCommon(Control& control, QWidget& widget);
+  void AddStrangers(std::vector<std::string>& faults) const;
+
+  Joint& joint_;
+  Form& form_;
+  const Surfaces& surfaces_;
+  std::map<const Control*, QWidget*> widgets_;
+  std::vector<std::string> faults_;
+};

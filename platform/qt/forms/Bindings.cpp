@@ -1,0 +1,42 @@
+#include "platform/qt/forms/Bindings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/qt/forms/BindLists.h"
+#include "platform/qt/forms/BindPlain.h"
+
+namespace {
+
+template <class ControlClass, class WidgetClass>
+constexpr Binding Row(std::string_view kind) {
+  return {kind, &WidgetClass::staticMetaObject,
+          [](Joint& joint, Control& control, QWidget& widget, const Surfaces& surfaces) {
+            Bind(joint, static_cast<ControlClass&>(control), static_cast<WidgetClass&>(widget), surfaces);
+          }};
+}
+
+constexpr Binding kBindings[] = {
+    Row<Label, QLabel>("Label"),
+    Row<Frame, QGroupBox>("Frame"),
+    Row<CommandButton, QPushButton>("CommandButton"),
+    Row<CheckBox, QCheckBox>("CheckBox"),
+    Row<TextBox, QLineEdit>("TextBox"),
+    Row<ComboBox, QComboBox>("ComboBox"),
+    Row<Slider, SeekSlider>("Slider"),
+    Row<DatePicker, QDateTimeEdit>("DatePicker"),
+    Row<ColourPanel, QFrame>("ColourPanel"),
+    Row<PictureBox, QFrame>("PictureBox"),
+    Row<PlayerControl, QWidget>("PlayerControl"),
+    Row<FileListBox, NameView>("FileListBox"),
+    Row<ListView, RowView>("ListView"),
+};
+
+}  // namespace
+
+std::span<const Binding> Bindings() { return kBindings; }

@@ -1,0 +1,45 @@
+#include "platform/qt/forms/FormLoader.h"
+
+#include <QFile>
+#include <QUiLoader>
+#include <QWidget>
+
+#include "platform/qt/forms/NameView.h"
+#include "platform/qt/forms/RowView.h"
+#include "platform/qt/forms/SeekSlider.h"
+
+namespace {
+
+class Loader : public QUiLoader {
+ public:
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    QWidget* widget = Own(className, parent);
+    if (widget == nullptr) return QUiLoader::createWidget(className, parent, name);
+    widget->setObjectName(name);
+    return widget;
+  }
+
+ private:
+  static QWidget* Own(const QString& className, QWidget* parent) {
+    if (className == "QTreeView") return new RowView(parent);
+    if (className == "QListView") return new NameView(parent);
+    if (className == "QSlider") return new SeekSlider(parent);
+    return nullptr;
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<QWidget> LoadLayout(const QString& file) {
+  QFile opened(file);
+  if (!opened.open(QFile::ReadOnly)) {
+    qWarning("There is no layout %s", qPrintable(file));
+    return nullptr;
+  }
+  Loader loader;
+  std::unique_ptr<QWidget> window(loader.load(&opened));
+  if (!window) qWarning("%s: %s", qPrintable(file), qPrintable(loader.errorString()));
+  return window;
+}
+
+QString LayoutFile(const QString& formName) { return ":/forms/" + formName + ".ui"; }

@@ -1,0 +1,46 @@
+#include "platform/qt/forms/NameView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+NameView::NameView(QWidget* parent) : QListView(parent) {
+  setUniformItemSizes(true);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+}
+
+void NameView::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton ? indexAt(event->position().toPoint()) : QModelIndex();
+  if (pressed_.isValid()) QListView::mousePressEvent(event);
+}
+
+void NameView::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons()) QListView::mouseMoveEvent(event);  // a drag selects nothing
+}
+
+void NameView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QModelIndex at = indexAt(event->position().toPoint());
+  if (at.isValid() && at == currentIndex()) return;
+  mousePressEvent(event);
+}
+
+void NameView::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  if (event->button() != Qt::LeftButton || !pressed_.isValid()) return;
+  const int row = pressed_.row();
+  const bool same = indexAt(event->position().toPoint()) == pressed_;
+  pressed_ = QModelIndex();
+  if (same) {
+    emit picked(row);
+  } else {
+    emit strayed();
+  }
+}
+
+void NameView::keyPressEvent(QKeyEvent* event) {
+  const bool pick = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  const QModelIndex before = currentIndex();
+  if (!pick) QListView::keyPressEvent(event);
+  const QModelIndex now = currentIndex();
+  if (now.isValid() && (now != before || (pick && !event->isAutoRepeat()))) emit picked(now.row());
+}

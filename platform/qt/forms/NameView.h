@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QListView>
+#include <QPersistentModelIndex>
+
+// A plain list of names: a click on one picks it, also when it is selected already, and so does moving to it by key.
+// The second half of a double click picks nothing.
+class NameView : public QListView {
+  Q_OBJECT
+
+ public:
+  explicit NameView(QWidget* parent = nullptr);
+
+ signals:
+  void picked(int row);  // from 0
+  // The pointer left the row that it had pressed: nothing is picked, and the view shows a row that nobody chose.
+  void strayed();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QPersistentModelIndex pressed_;
+};

@@ -1,0 +1,156 @@
+#include "platform/qt/forms/OperatorWindow.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+#include <optional>
+
+#include "platform/qt/desktop/WindowClass.h"
+#include "platform/qt/forms/FormLoader.h"
+#include "platform/qt/forms/Pressed.h"
+#include "platform/qt/forms/Texts.h"
+#include "platform/qt/forms/TrayBinding.h"
+#include "platform/qt/forms/WindowDrag.h"
+#include "platform/qt/forms/WindowPlace.h"
+#include "platform/toolkit/Form.h"
+
+namespace {
+
+QWidget* NewWindow(const Form& form) {
+  std::unique_ptr<QWidget> window = LoadLayout(LayoutFile(Shown(form.Name())));
+  if (!window) window = std::make_unique<QWidget>();
+  Qt::WindowFlags flags = Qt::Window;
+  if (window->property("frameless").toBool()) flags |= Qt::FramelessWindowHint;
+  if (window->property("noMinimize").toBool()) {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+             Qt::WindowCloseButtonHint;
+  }
+  window->setWindowFlags(flags);
+  return window.release();
+}
+
+QList<QRect> ScreenAreas() {
+  QList<QRect> areas;
+  for (const QScreen* screen : QGuiApplication::screens()) areas.append(screen->availableGeometry());
+  return areas;
+}
+
+}  // namespace
+
+OperatorWindow::OperatorWindow(Form& form, const Surfaces& surfaces)
+    : form_(form), joint_(NewWindow(form)), binder_(joint_, form, surfaces) {
+  TakeLayoutsMeasures();
+  FollowForm();
+  for (Component* component : form.Components()) {
+    if (auto* icon = dynamic_cast<TrayIcon*>(component)) Bind(joint_, *icon);
+  }
+  joint_.OnEvents(&Widget(), [this](QEvent& event) { return Seen(event); });
+}
+
+OperatorWindow::~OperatorWindow() = default;
+
+void OperatorWindow::TakeLayoutsMeasures() {
+  const QSize size = Widget().size();
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  QRect centred(QPoint(), size);
+  centred.moveCenter(screen.center());
+  if (form_.Width == 0) form_.Width = ToTwips(size.width());
+  if (form_.Height == 0) form_.Height = ToTwips(size.height());
+  if (form_.Left == 0) form_.Left = ToTwips(std::max(screen.left(), centred.left()));
+  if (form_.Top == 0) form_.Top = ToTwips(std::max(screen.top(), centred.top()));
+  if (form_.Caption.Get().empty()) form_.Caption = Stored(Widget().windowTitle());
+}
+
+void OperatorWindow::FollowForm() {
+  joint_.Follow(form_.Caption.Changed, [this] { Widget().setWindowTitle(Shown(form_.Caption)); });
+  for (Property<Twips>* measure : {&form_.Left, &form_.Top, &form_.Width, &form_.Height}) {
+    joint_.Follow(measure->Changed, [this] { Place(); });
+  }
+  joint_.Follow(form_.OnTop.Changed, [this] { ApplyOnTop(); });
+  joint_.Follow(form_.Visible.Changed, [this] {
+    // A worker form is shown and hidden in one breath to bring it to life: only what stands after the handler counts.
+    if (showPending_) return;
+    showPending_ = true;
+    joint_.Later([this] { ShowAsTheFormSays(); });
+  });
+}
+
+void OperatorWindow::Place() {
+  if (noting_) return;
+  const QPoint place(Pixels(form_.Left), Pixels(form_.Top));
+  const QSize size(Pixels(form_.Width), Pixels(form_.Height));
+  if (Widget().pos() != place) Widget().move(place);
+  if (Widget().size() != size) Widget().resize(size);
+}
+
+void OperatorWindow::ApplyOnTop() {
+  Qt::WindowFlags flags = Widget().windowFlags();
+  flags.setFlag(Qt::WindowStaysOnTopHint, form_.OnTop);
+  Widget().overrideWindowFlags(flags);  // setWindowFlags would take a window that stands off the screen
+  if (QWindow* window = Widget().windowHandle()) window->setFlags(flags);
+}
+
+void OperatorWindow::ShowAsTheFormSays() {
+  showPending_ = false;
+  if (!form_.Visible) {
+    Widget().hide();
+    return;
+  }
+  const QRect wanted(Widget().pos(), Widget().size());
+  const QRect reachable = Reachable(wanted, ScreenAreas());
+  if (reachable != wanted) Widget().move(reachable.topLeft());
+  Widget().show();
+  Widget().raise();
+  Widget().activateWindow();
+}
+
+bool OperatorWindow::Seen(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Close:
+      event.ignore();
+      form_.Close();
+      return true;
+    case QEvent::Move:
+    case QEvent::Resize:
+      // The window manager settles a window in several steps; the last one counts.
+      if (!notePending_ && Widget().isVisible()) {
+        notePending_ = true;
+        joint_.Later([this] { NotePlace(); }, std::chrono::milliseconds(100));
+      }
+      return false;
+    case QEvent::WinIdChange:
+      if (Widget().windowHandle() != nullptr) SetWindowClass(*Widget().windowHandle(), form_.Name());
+      return false;
+    case QEvent::MouseButtonPress:
+      if (const auto button = Pressed(event)) form_.PressMouse(*button);
+      return false;
+    default:
+      return false;
+  }
+}
+
+void OperatorWindow::NotePlace() {
+  notePending_ = false;
+  if (!Widget().isVisible() || Widget().isMinimized() || Widget().isMaximized()) return;
+  const QRect now(Widget().pos(), Widget().size());
+  // Written only where it is another pixel: a place between two pixels that the program chose stays exact.
+  const auto note = [](Property<Twips>& measure, int pixels) {
+    if (Pixels(measure) != pixels) measure = ToTwips(pixels);
+  };
+  noting_ = true;
+  note(form_.Left, now.left());
+  note(form_.Top, now.top());
+  note(form_.Width, now.width());
+  note(form_.Height, now.height());
+  noting_ = false;
+}
+
+void OperatorWindow::Focus(const Control& control) {
+  if (QWidget* widget = binder_.WidgetOf(control)) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void OperatorWindow::DragWindow(std::function<void()> done) { new WindowDrag(Widget(), joint_.WhileHere(std::move(done))); }
+
+void OperatorWindow::DragPane(Control&, std::function<void()> done) { done(); }
