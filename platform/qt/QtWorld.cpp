@@ -1,0 +1,64 @@
+#include "platform/qt/QtWorld.h"
+
+#include <QApplication>
+#include <QQuickWindow>
+#include <filesystem>
+
+#include "platform/posix/PosixFiles.h"
+#include "platform/qt/GraphicsChoice.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/desktop/QtDesktop.h"
+#include "platform/qt/desktop/QtDialogs.h"
+#include "platform/qt/desktop/QtPictures.h"
+#include "platform/qt/forms/QtWindows.h"
+#include "platform/qt/media/MpvEngine.h"
+#include "platform/qt/media/PreviewWidget.h"
+#include "platform/qt/scene/OnAirWindow.h"
+#include "platform/qt/scene/PictureLoader.h"
+#include "platform/qt/scene/Scene.h"
+
+namespace {
+
+// The layouts of the operator's forms are made for this look; the desktop's own might not fit their measures.
+constexpr char kStyle[] = "Fusion";
+
+}  // namespace
+
+struct QtWorld::Parts {
+  Parts(int& argc, char** argv)
+      : graphics(ChooseGraphics()),
+        application((QApplication::setStyle(kStyle), argc), argv),
+        media(graphics == Graphics::kSoftware ? MpvEngine::Decoding::kSoftware
+                                              : MpvEngine::Decoding::kHardwareWhereThereIs),
+        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}),
+        desktop([] {}) {
+    application.setApplicationName("corvanta");
+    application.setQuitOnLastWindowClosed(false);
+  }
+
+  Graphics graphics;  // chosen before there is an application
+  QApplication application;
+  std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+  QtClock clock;
+  QtScheduler scheduler;
+  PosixFiles files;
+  MpvEngine media;
+  QtPictures pictures;
+  PictureLoader loader;
+  Scene scene{scheduler, loader};
+  QtWindows windows;
+  QtDialogs dialogs;
+  QtDesktop desktop;
+};
+
+QtWorld::QtWorld(int& argc, char** argv)
+    : parts_(std::make_unique<Parts>(argc, argv)),
+      world{parts_->clock,    parts_->scheduler, parts_->files,   parts_->media,
+            parts_->pictures, parts_->windows,   parts_->dialogs, parts_->desktop} {}
+
+QtWorld::~QtWorld() = default;
+
+const std::string& QtWorld::ProgramFolder() const { return parts_->folder; }
+
+int QtWorld::Run() { return QApplication::exec(); }
