@@ -1,5 +1,6 @@
 #include "output/frmPlayer.h"
 
+#include "output/Placement.h"
 #include "platform/Windows.h"
 #include "platform/toolkit/Failures.h"
 #include "settings/Numbers.h"
@@ -95,6 +96,17 @@ void frmPlayer::Fill(Control& control, Twips below) {
 void frmPlayer::MainPlay(const std::string& path) {
   Player.URL = path;
   ItemStarted.Raise();
+}
+
+void frmPlayer::MoveTo(int index) {
+  if (!monitors_) monitors_.emplace(Outside().monitors);
+  SkippingFailures([&] { MoveToMonitor(*this, *monitors_, index); });
+}
+
+void frmPlayer::SetDisplay(const cMonitor& monitor) {
+  Width = kTwipsPerPixel * monitor.WorkWidth();
+  Left = kTwipsPerPixel * monitor.WorkLeft();
+  Top = kTwipsPerPixel * monitor.WorkTop();
 }
 
 void frmPlayer::SetHeight() {

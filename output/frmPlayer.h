@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "output/CurrentAd.h"
+#include "output/cMonitors.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
@@ -55,6 +57,11 @@ class frmPlayer : public Form {
   void ViewAd(const std::string& header, const std::string& scroll, const std::string& left, const std::string& right);
   // Shows the side column and lays it out.
   void SideAd();
+  // Sends the window to monitor `index`, from 1; see MoveToMonitor. The monitors are those of the first call: one that
+  // is plugged in later is not seen before the window is made anew. Stays put when there is no such monitor.
+  void MoveTo(int index);
+  // Aligns the window's left, top and width to the work area of a monitor.
+  void SetDisplay(const cMonitor& monitor);
   // Does nothing; a public operation all the same.
   void LogoSett() {}
 
@@ -81,5 +88,6 @@ class frmPlayer : public Form {
 
   Station& station_;
   CurrentAd& currentAd_;
+  std::optional<cMonitors> monitors_;
   int slide_ = 0;  // of the banner, twips
 };

@@ -5,6 +5,7 @@ class Desktop;
 class Dialogs;
 class Files;
 class MediaEngine;
+class Monitors;
 class Pictures;
 class Scheduler;
 class Windows;
@@ -19,4 +20,5 @@ struct World {
   Windows& windows;
   Dialogs& dialogs;
   Desktop& desktop;
+  Monitors& monitors;
 };

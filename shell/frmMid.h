@@ -25,6 +25,8 @@ class frmMid : public Form {
   // Puts every feature back as Settings.ini says it stood when the station last ran. Asks nothing; a feature that
   // fails does not stop the walk.
   void LoadSett();
+  // Sends the output window to its monitor.
+  void MoveTo();
 
  protected:
   void Load() override;

@@ -19,8 +19,10 @@ bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
 void frmMid::RestoreMonitor() {
   OnMonitor2 = ShowKeySays("Output", "Monitor2");
   if (!OnMonitor2) station_.forms.Unload<frmPlayer>();
-  station_.forms.Get<frmPlayer>();
+  MoveTo();
 }
+
+void frmMid::MoveTo() { station_.forms.Get<frmPlayer>().MoveTo(OnMonitor2 ? 2 : 1); }
 
 void frmMid::RestoreOutput() {
   OutputShown = ShowKeySays("Output");

@@ -10,6 +10,7 @@
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/QtDesktop.h"
 #include "platform/qt/desktop/QtDialogs.h"
+#include "platform/qt/desktop/QtMonitors.h"
 #include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/forms/QtWindows.h"
 #include "platform/qt/media/MpvEngine.h"
@@ -50,12 +51,13 @@ struct QtWorld::Parts {
   QtWindows windows;
   QtDialogs dialogs;
   QtDesktop desktop;
+  QtMonitors monitors;
 };
 
 QtWorld::QtWorld(int& argc, char** argv)
     : parts_(std::make_unique<Parts>(argc, argv)),
-      world{parts_->clock,    parts_->scheduler, parts_->files,   parts_->media,
-            parts_->pictures, parts_->windows,   parts_->dialogs, parts_->desktop} {}
+      world{parts_->clock,   parts_->scheduler, parts_->files,   parts_->media,   parts_->pictures,
+            parts_->windows, parts_->dialogs,   parts_->desktop, parts_->monitors} {}
 
 QtWorld::~QtWorld() = default;
 

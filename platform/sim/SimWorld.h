@@ -3,6 +3,7 @@
 #include "platform/World.h"
 #include "platform/sim/SimFiles.h"
 #include "platform/sim/SimMedia.h"
+#include "platform/sim/SimMonitors.h"
 #include "platform/sim/SimShell.h"
 #include "platform/sim/SimTime.h"
 #include "platform/sim/SimTrace.h"
@@ -18,6 +19,7 @@ struct SimWorld {
   SimWindows windows{trace};
   SimDialogs dialogs{trace};
   SimDesktop desktop{trace};
+  SimMonitors monitors;
 
-  World world{time, time, files, media, pictures, windows, dialogs, desktop};
+  World world{time, time, files, media, pictures, windows, dialogs, desktop, monitors};
 };

@@ -58,6 +58,7 @@ class Form {
   Property<std::string> Caption;
   Property<bool> Visible{false};
   Property<bool> OnTop{false};
+  Property<bool> Maximised{false};
   Property<Twips> Left;
   Property<Twips> Top;
   Property<Twips> Width;

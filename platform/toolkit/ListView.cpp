@@ -12,9 +12,9 @@ bool IsWordLetter(char letter) {
   return (folded >= 'a' && folded <= 'z') || (letter >= '0' && letter <= '9') || letter == '_' || (letter & 0x80) != 0;
 }
 
-bool BeginsWithWord(std::string_view row, std::string_view text) {
+bool Matches(std::string_view row, std::string_view text, ListView::Match match) {
   return row.size() >= text.size() && EqualFolded(row.substr(0, text.size()), text) &&
-         (row.size() == text.size() || !IsWordLetter(row[text.size()]));
+         (match == ListView::Match::kBeginning || row.size() == text.size() || !IsWordLetter(row[text.size()]));
 }
 
 }  // namespace
@@ -86,9 +86,9 @@ void ListView::EnsureVisible(int index) {
   Tell(ListChange::What::kEnsureVisible, index);
 }
 
-int ListView::FindItem(std::string_view text) const {
+int ListView::FindItem(std::string_view text, Match match) const {
   for (int index = 1; index <= Count(); ++index) {
-    if (BeginsWithWord(rows_[static_cast<std::size_t>(index) - 1].text, text)) return index;
+    if (Matches(rows_[static_cast<std::size_t>(index) - 1].text, text, match)) return index;
   }
   return 0;
 }

@@ -57,8 +57,9 @@ class ListView : public Control {
   void SetSelected(int index, bool selected);
   void EnsureVisible(int index);
 
-  // The first row that begins with `text` as a whole word, case ignored; 0 when there is none.
-  int FindItem(std::string_view text) const;
+  enum class Match { kWholeWord, kBeginning };
+  // The first row that begins with `text`, as a whole word or just so, case ignored; 0 when there is none.
+  int FindItem(std::string_view text, Match match = Match::kWholeWord) const;
 
   // The operator clicks a row.
   void ClickRow(int index);
