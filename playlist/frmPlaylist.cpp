@@ -11,10 +11,13 @@ frmPlaylist::frmPlaylist(Station& station) : Form(station.forms, "frmPlaylist", 
   Caption = "Playlist manager";
   Width = 1280 * kTwipsPerPixel;
   Height = 800 * kTwipsPerPixel;
-  cmbPlaylist.Text = "Select playlist";
+  cmbPlaylist.Text = kNoPlaylist;
   ConnectOptions();
   ConnectFiles();
   ConnectSequencer();
+  ConnectSchedules();
+  ConnectResume();
+  ConnectEditing();
 }
 
 void frmPlaylist::ConnectOptions() {
@@ -43,9 +46,11 @@ void frmPlaylist::Load() {
   PlaylistFolder = station_.dataFolder.Path("\\Playlist\\");
   station_.stores.SettingsFile();
   LoadConfig();
+  LoadSchedule(ListSchedule);
   LoadPlaylistToCmb();
   ListPlay.SmallIcons = "ImgList";
   Player.settings.mute = true;
+  if (Setting("LastPlay") == "1") RestoreLastPlay();
 }
 
 bool frmPlaylist::MayUnload() {

@@ -9,6 +9,7 @@
 #include "platform/toolkit/PlayerControl.h"
 #include "platform/toolkit/Timer.h"
 #include "platform/toolkit/Widgets.h"
+#include "playlist/RowMoves.h"
 #include "settings/FormExtender.h"
 #include "settings/Station.h"
 
@@ -76,7 +77,7 @@ class frmPlaylist : public Form {
   CommandButton btnCreatePlaylist{*this, "btnCreatePlaylist"};
   TextBox Text1{*this, "Text1"};
 
-  Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), Timer::kEnabled};
+  Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), Timer::kEnabled, TickPhase::kWallSecond};
   Timer Timer2{*this, "Timer2", std::chrono::milliseconds(1000), Timer::kDisabled};
   Timer Timer3{*this, "Timer3", std::chrono::milliseconds(1000), Timer::kEnabled};
   Timer Timer4{*this, "Timer4", std::chrono::milliseconds(1000), Timer::kDisabled};
@@ -98,6 +99,11 @@ class frmPlaylist : public Form {
   // Adds all playlists to the combo, behind what it holds already: a second call doubles its rows. Meant so.
   void LoadPlaylistToCmb();
 
+  // Fills the list from the day schedule's file.
+  void LoadSchedule(ListView& list);
+  // Selects and shows the first row that begins with `text`; nothing happens when there is none.
+  void SearchEntry(ListView& list, const std::string& text);
+
   // Puts the next item on the air from the source that the boxes choose now; nothing happens when there is none.
   void PlayNext();
   void PlayNextFolder();
@@ -117,6 +123,9 @@ class frmPlaylist : public Form {
   void ConnectOptions();
   void ConnectFiles();
   void ConnectSequencer();
+  void ConnectSchedules();
+  void ConnectResume();
+  void ConnectEditing();
 
   std::string Setting(const std::string& key) const;
   void WriteSetting(const std::string& key, const std::string& value);
@@ -133,13 +142,32 @@ class frmPlaylist : public Form {
   void FileList_Click();
   void FileQuick_Click();
   void ListPlay_Click();
+  void TimerFind_Tick();
+  void TimerDay_Tick();
+  void vkCommand2_Click();
+  void vkCommand3_Click();
+  void Timer4_Tick();
+  void Timer5_Tick();
+  void TimerGetDuration_Tick();
+  void RestoreLastPlay();
+  void ProbeFile();
+  void ShowDuration();
+  void btnAdd_Click();
+  void cmdRemove_Click();
+  void MoveRows(RowMove move);
+  void btnCreateList_Click();
+  void btnDeletePlaylist_Click();
   void PlayNextInSequence();
   void PlayRandomRow();
+
+  // What the combo of playlists shows at rest.
+  static constexpr char kNoPlaylist[] = "Select playlist";
 
   Station& station_;
   std::string PlaylistFolder;
   int FolderIndex = 0;  // in FileList, from 0
   // The row last played in sequence, from 1; 0 before the first. A start by hand or by a schedule leaves it alone.
   int ListCursor = 0;
+  bool Blink = false;   // PicTimeOn is red now
   int QuickCursor = 0;  // 1 + the index in FileQuick
 };

@@ -83,7 +83,10 @@ void frmPlaylist::PlayNextFolder() {
 }
 
 void frmPlaylist::FileList_Click() {
-  if (!chkFolderPlay.Ticked()) return;
+  if (!chkFolderPlay.Ticked()) {
+    ProbeFile();
+    return;
+  }
   const std::string path = FileList.FilePath();
   if (chkPreview.Ticked()) {
     Play(path);
