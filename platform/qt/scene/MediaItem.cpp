@@ -84,16 +84,17 @@ QSGNode* MediaItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
     delete picture;
     return node;
   }
-  if (picture == nullptr) {
+  const bool isNew = picture == nullptr;
+  if (isNew) {
     picture = window()->createImageNode();
     picture->setOwnsTexture(true);
     picture->setFiltering(QSGTexture::Nearest);
-    node->appendChildNode(picture);
   }
   if (std::exchange(frameIsNew_, false)) {
     picture->setTexture(window()->createTextureFromImage(frame_, QQuickWindow::TextureIsOpaque));
     picture->markDirty(QSGNode::DirtyMaterial);
   }
   picture->setRect(seen_);
+  if (isNew) node->appendChildNode(picture);  // only now: a node in the tree must have its texture
   return node;
 }
