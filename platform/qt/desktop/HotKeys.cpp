@@ -32,7 +32,8 @@ void HotKeys::Register(int id, char letter, std::function<void()> pressed) {
   if (code == 0) return;
   keys_[id] = {code, std::move(pressed)};
   const XErrorTrap trap(display);
-  for (const unsigned int locks : {0U, static_cast<unsigned int>(LockMask), static_cast<unsigned int>(Mod2Mask), kLocks}) {
+  for (const unsigned int locks :
+       {0U, static_cast<unsigned int>(LockMask), static_cast<unsigned int>(Mod2Mask), kLocks}) {
     XGrabKey(display, static_cast<int>(code), kWanted | locks, DefaultRootWindow(display), 1, GrabModeAsync,
              GrabModeAsync);
   }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QEvent>
-#include <QGuiApplication>
 #include <QtGui/qguiapplication_platform.h>
 
-// Last of all includes: X defines words that Qt uses as names.
-#include <X11/Xlib.h>
+#include <QEvent>
+#include <QGuiApplication>
 
+// Last of all includes: X defines words that Qt uses as names.
 #include <X11/Xatom.h>
+#include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/dpms.h>
 #undef None

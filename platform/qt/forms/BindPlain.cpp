@@ -88,6 +88,7 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setCompleter(nullptr);  // the text stays as it was typed
   IgnoreWheelWithoutFocus(joint, widget);
+  if (control.Text.Get().empty()) control.Text = Stored(widget.currentText());
   const auto show = [&] {
     const QString text = Shown(control.Text);
     if (widget.isEditable()) {
@@ -101,8 +102,7 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
     for (int index = widget.count(); index < control.ListCount(); ++index) widget.addItem(Shown(control.List(index)));
     show();
   });
-  if (control.Text.Get().empty()) control.Text = Stored(widget.currentText());
-  joint.Follow(control.Text.Changed, show);
+  joint.Watch(control.Text.Changed, show);
   joint.On(&widget, &QComboBox::activated, [&control](int index) { control.Pick(index); });
   if (widget.lineEdit() != nullptr) {
     joint.On(widget.lineEdit(), &QLineEdit::textEdited,

@@ -77,7 +77,8 @@ void Binder::AddStrangers(std::vector<std::string>& faults) const {
   for (const auto& [control, widget] : widgets_) bound.insert(widget);
   for (const QWidget* widget : joint_.Window().findChildren<QWidget*>()) {
     const QString name = widget->objectName();
-    if (name.isEmpty() || name.startsWith("lay") || name.startsWith("qt_") || bound.contains(widget)) continue;
+    const bool innards = name.startsWith("qt_") || widget->parentWidget()->inherits("QTabBar");
+    if (name.isEmpty() || name.startsWith("lay") || innards || bound.contains(widget)) continue;
     faults.push_back(Stored(name) + ": in the layout, and no control of the form");
   }
 }

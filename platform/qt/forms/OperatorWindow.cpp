@@ -151,6 +151,8 @@ void OperatorWindow::Focus(const Control& control) {
   if (QWidget* widget = binder_.WidgetOf(control)) widget->setFocus(Qt::OtherFocusReason);
 }
 
-void OperatorWindow::DragWindow(std::function<void()> done) { new WindowDrag(Widget(), joint_.WhileHere(std::move(done))); }
+void OperatorWindow::DragWindow(std::function<void()> done) {
+  new WindowDrag(Widget(), joint_.WhileHere(std::move(done)));
+}
 
 void OperatorWindow::DragPane(Control&, std::function<void()> done) { done(); }

@@ -54,8 +54,7 @@ void RowView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void RowView::keyPressEvent(QKeyEvent* event) {
-  const bool click =
-      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  const bool click = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
   if (!click || event->modifiers() & ~Qt::KeypadModifier) {
     QTreeView::keyPressEvent(event);
   } else if (!event->isAutoRepeat()) {

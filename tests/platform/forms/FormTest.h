@@ -1,0 +1,44 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <memory>
+#include <string>
+
+#include "platform/qt/forms/OperatorWindow.h"
+#include "platform/qt/forms/QtWindows.h"
+#include "platform/sim/SimWorld.h"
+#include "platform/toolkit/Form.h"
+#include "settings/Station.h"
+
+// A station in the virtual world whose operator forms are real widgets.
+class FormTest : public ::testing::Test {
+ protected:
+  FormTest() { sim.files.CreateFolder("/station/Playlist"); }
+
+  template <class F>
+  F& Get() {
+    return station.forms.Get<F>();
+  }
+  static OperatorWindow& WindowOf(Form& form) { return dynamic_cast<OperatorWindow&>(*form.Window()); }
+
+  // The widget that shows a control.
+  template <class W>
+  static W& Shown(Control& control) {
+    return dynamic_cast<W&>(*WindowOf(control.Owner()).Joined().WidgetOf(control));
+  }
+
+  // Lets the message loop run until nothing is left to do.
+  static void Settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+  }
+
+  SimWorld sim;
+  QtWindows windows{[this](Form& form) { return sim.windows.Create(form); }, Surfaces{}};
+  World world{sim.time, sim.time, sim.files, sim.media, sim.pictures, windows, sim.dialogs, sim.desktop};
+  Station station{world, "/station"};
+};

@@ -1,0 +1,66 @@
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QMap>
+
+#include "platform/qt/forms/FormLoader.h"
+#include "playlist/frmPlaylist.h"
+#include "shell/frmLoad.h"
+#include "shell/frmMid.h"
+#include "tests/platform/forms/FormTest.h"
+
+namespace {
+
+using LayoutsTest = FormTest;
+
+TEST_F(LayoutsTest, EveryControlHasItsWidgetOfTheRightClassAndNoWidgetIsAStranger) {
+  for (Form* form : {static_cast<Form*>(&Get<frmLoad>()), static_cast<Form*>(&Get<frmMid>()),
+                     static_cast<Form*>(&Get<frmPlaylist>())}) {
+    for (const std::string& fault : WindowOf(*form).Joined().Faults()) {
+      ADD_FAILURE() << form->Name() << ": " << fault;
+    }
+  }
+}
+
+TEST_F(LayoutsTest, CaptionsAreTheStationsTextsLetterForLetter) {
+  frmPlaylist& form = Get<frmPlaylist>();
+  const auto button = [](CommandButton& control) { return control.Caption.Get(); };
+  EXPECT_EQ(button(form.btnUp), "Go up");
+  EXPECT_EQ(button(form.btnDown), "Go down");
+  EXPECT_EQ(button(form.btnMostUp), "Go top");
+  EXPECT_EQ(button(form.btnMostDown), "Go bottom");
+  EXPECT_EQ(button(form.cmdRemove), "&Remove");
+  EXPECT_EQ(button(form.vkCommand3), "&Remove");
+  EXPECT_EQ(button(form.vkCommand2), "Add schedule");
+  EXPECT_EQ(button(form.btnBrows), "&Browse");
+  EXPECT_EQ(button(form.ThemedButton1), "Set selected playlist to play");
+  EXPECT_EQ(Shown<QCheckBox>(form.chkRendomPlay).text(), "Random play  ");
+  EXPECT_EQ(Shown<QCheckBox>(form.ChkQuickPlay).text(), "Enable Quick player");
+  EXPECT_EQ(form.cmbPlaylist.Text.Get(), "Select playlist");
+}
+
+TEST_F(LayoutsTest, NoTwoControlsShareAKey) {
+  for (Form* form : {static_cast<Form*>(&Get<frmMid>()), static_cast<Form*>(&Get<frmPlaylist>())}) {
+    QMap<QString, QString> taken;
+    for (const QAbstractButton* button : WindowOf(*form).Widget().findChildren<QAbstractButton*>()) {
+      const QString key = button->shortcut().toString();
+      if (key.isEmpty()) continue;
+      EXPECT_FALSE(taken.contains(key)) << qPrintable(button->objectName() + " and " + taken[key] + ": " + key);
+      taken[key] = button->objectName();
+    }
+  }
+}
+
+TEST_F(LayoutsTest, EveryFieldThatCanBeReachedByKeyHasANameForThoseWhoCannotSee) {
+  for (QWidget* widget : WindowOf(Get<frmPlaylist>()).Widget().findChildren<QWidget*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
+    if (widget->objectName().isEmpty() || widget->inherits("QTabBar") || widget->inherits("QTabWidget")) continue;
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << qPrintable(widget->objectName());
+  }
+}
+
+TEST_F(LayoutsTest, AFormWithoutALayoutIsAnEmptyWindow) { EXPECT_EQ(LoadLayout(":/forms/frmNone.ui"), nullptr); }
+
+}  // namespace

@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+
+#include "platform/qt/forms/WindowPlace.h"
+
+namespace {
+
+const QList<QRect> kTwoScreens{QRect(0, 0, 1280, 800), QRect(1280, 0, 1920, 1080)};
+
+TEST(WindowPlace, ThePlaceStandsWhileItsUpperEdgeIsInReach) {
+  const QRect onSecond(2000, 500, 600, 900);
+  EXPECT_EQ(Reachable(onSecond, kTwoScreens), onSecond);
+  const QRect halfOut(-500, 100, 600, 400);
+  EXPECT_EQ(Reachable(halfOut, kTwoScreens), halfOut);
+}
+
+TEST(WindowPlace, AWindowOfAScreenThatIsGoneComesToTheNearestOne) {
+  const QRect lost(2000, 500, 600, 400);
+  EXPECT_EQ(Reachable(lost, {QRect(0, 0, 1280, 800)}), QRect(680, 400, 600, 400));
+}
+
+TEST(WindowPlace, AWindowAboveTheScreenComesDownSinceNobodyCouldGraspIt) {
+  EXPECT_EQ(Reachable(QRect(100, -50, 600, 400), kTwoScreens), QRect(100, 0, 600, 400));
+}
+
+TEST(WindowPlace, AWindowLargerThanTheScreenShowsItsLeftTopCorner) {
+  EXPECT_EQ(Reachable(QRect(5000, 5000, 3000, 2000), {QRect(0, 0, 1280, 800)}), QRect(0, 0, 3000, 2000));
+}
+
+TEST(WindowPlace, WithoutAnyScreenNothingMoves) {
+  EXPECT_EQ(Reachable(QRect(5000, 0, 10, 10), {}), QRect(5000, 0, 10, 10));
+}
+
+TEST(WindowPlace, TwipsAndPixelsAreFifteenToOne) {
+  EXPECT_EQ(Pixels(15450), 1030);
+  EXPECT_EQ(Pixels(-15), -1);
+  EXPECT_EQ(ToTwips(768), 11520);
+}
+
+}  // namespace
