@@ -85,7 +85,9 @@ int CompareIgnoringCase(std::string_view left, std::string_view right) {
   return static_cast<int>(leftAt < left.size()) - static_cast<int>(rightAt < right.size());
 }
 
-bool EqualIgnoringCase(std::string_view left, std::string_view right) { return CompareIgnoringCase(left, right) == 0; }
+bool EqualIgnoringCase(std::string_view left, std::string_view right) {
+  return left == right || CompareIgnoringCase(left, right) == 0;
+}
 
 bool LessIgnoringCase(const std::string& left, const std::string& right) {
   const int order = CompareIgnoringCase(left, right);

@@ -141,48 +141,77 @@ std::string_view IniDocument::Value(std::string_view section, std::string_view k
   return k == kNone ? std::string_view{} : View(keys_[k].value);
 }
 
-std::string IniDocument::WithValue(std::string_view section, std::string_view key, std::string_view value) const {
+IniDocument IniDocument::WithValue(std::string_view section, std::string_view key, std::string_view value) const {
   const std::size_t s = FindSection(section);
-  std::string text;
-  if (s == kNone) {
-    text = WithSection(section);
-    text.append(CleanKeyName(key)).append("=").append(CleanValue(value)).append(kLineEnd);
-    return text;
-  }
-  const std::size_t k = FindKey(s, key);
-  std::string line = k == kNone ? CleanKeyName(key) : std::string(View(keys_[k].name));
-  line.append("=").append(CleanValue(value)).append(kLineEnd);
-  const Span old = k == kNone ? Span{sections_[s].bodyEnd, sections_[s].bodyEnd} : keys_[k].line;
-  text.reserve(text_.size() + line.size());
-  text.append(text_, 0, old.from).append(line).append(text_, old.to);
-  return text;
+  const std::size_t k = s == kNone ? kNone : FindKey(s, key);
+  if (k != kNone) return WithNewValue(s, k, value);
+  std::string text = s == kNone ? TextWithSection(section) : text_;
+  const std::size_t at = s == kNone ? text.size() : sections_[s].bodyEnd;
+  text.insert(at, CleanKeyName(key).append("=").append(CleanValue(value)).append(kLineEnd));
+  return IniDocument(std::move(text));
 }
 
-std::string IniDocument::WithSection(std::string_view name) const {
+// The edit of every second of a broadcast: what has been read of the file stays and only moves.
+IniDocument IniDocument::WithNewValue(std::size_t section, std::size_t key, std::string_view value) const {
+  IniDocument edited = *this;
+  const Key& old = keys_[key];
+  std::string line(View(old.name));
+  line.append("=").append(CleanValue(value)).append(kLineEnd);
+  edited.text_.replace(old.line.from, old.line.to - old.line.from, line);
+
+  // Unsigned numbers wrap, so that one addition moves both ways.
+  const auto shift = static_cast<std::uint32_t>(line.size()) - (old.line.to - old.line.from);
+  Key& changed = edited.keys_[key];
+  changed.name = {old.line.from, old.line.from + (old.name.to - old.name.from)};
+  changed.line.to += shift;
+  changed.value = {changed.name.to + 1, changed.line.to - static_cast<std::uint32_t>(kLineEnd.size())};
+  const auto move = [shift](Span& span) {
+    span.from += shift;
+    span.to += shift;
+  };
+  for (std::size_t k = key + 1; k < edited.keys_.size(); ++k) {
+    move(edited.keys_[k].line);
+    move(edited.keys_[k].name);
+    move(edited.keys_[k].value);
+  }
+  edited.sections_[section].bodyEnd += shift;
+  for (std::size_t s = section + 1; s < edited.sections_.size(); ++s) {
+    move(edited.sections_[s].name);
+    edited.sections_[s].start += shift;
+    edited.sections_[s].bodyEnd += shift;
+  }
+  return edited;
+}
+
+std::string IniDocument::TextWithSection(std::string_view name) const {
   std::string text = text_;
   const bool endsBlank = text.empty() || text == kLineEnd || text.ends_with("\r\n\r\n");
   if (!endsBlank) text.append(kLineEnd);
-  text.append("[").append(CleanSectionName(name)).append("]").append(kLineEnd);
-  return text;
+  return text.append("[").append(CleanSectionName(name)).append("]").append(kLineEnd);
 }
 
-std::string IniDocument::WithoutSection(std::size_t section) const {
+IniDocument IniDocument::WithSection(std::string_view name) const { return IniDocument(TextWithSection(name)); }
+
+IniDocument IniDocument::WithoutSection(std::size_t section) const {
   const Section& gone = sections_[section];
   std::string text = text_;
   text.erase(gone.start, gone.bodyEnd - gone.start);
-  return text;
+  return IniDocument(std::move(text));
 }
 
-std::string IniDocument::WithoutKey(std::size_t section, std::string_view key) const {
-  const Section& from = sections_[section];
-  const std::string clean = CleanKeyName(key);
-  for (const std::string_view name : {key, std::string_view(clean)}) {
-    for (std::uint32_t k = from.firstKey; k < from.firstKey + from.keyCount; ++k) {
-      if (!EqualIgnoringCase(View(keys_[k].name), name)) continue;
-      std::string text = text_;
-      text.erase(keys_[k].line.from, keys_[k].line.to - keys_[k].line.from);
-      return text;
+std::size_t IniDocument::FindKeyOf(std::size_t section, std::string_view name) const {
+  const std::string clean = CleanKeyName(name);
+  for (const std::string_view sought : {name, std::string_view(clean)}) {
+    for (std::size_t k = 0; k < KeyCount(section); ++k) {
+      if (EqualIgnoringCase(KeyName(section, k), sought)) return k;
     }
   }
-  return text_;
+  return kNone;
+}
+
+IniDocument IniDocument::WithoutKey(std::size_t section, std::size_t key) const {
+  const Span line = keys_[sections_[section].firstKey + key].line;
+  std::string text = text_;
+  text.erase(line.from, line.to - line.from);
+  return IniDocument(std::move(text));
 }

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-// The text of one INI file, read once and never changed: an edit gives the text of another document. All lines end in
-// CR LF, and all that is not part of an edit stays letter for letter.
+// The text of one INI file, which never changes: an edit gives another document. All lines end in CR LF, and all that
+// is not part of an edit stays letter for letter.
 //
 //   ; a comment            a line whose first sign is ";"
 //   [Section]              the last "]" of the line closes the name; a comment may follow
@@ -37,14 +37,15 @@ class IniDocument {
   // document.
   std::string_view Value(std::string_view section, std::string_view key) const;
 
-  // The text with the value set; the section and the key are added at their ends where they are missing.
-  std::string WithValue(std::string_view section, std::string_view key, std::string_view value) const;
-  // The text with an empty section added at the end.
-  std::string WithSection(std::string_view name) const;
-  // The text without the section, its keys and the blank lines above it. Comments after its last key stay.
-  std::string WithoutSection(std::size_t section) const;
-  // The text without the first key of that name in the section; the same text when there is none.
-  std::string WithoutKey(std::size_t section, std::string_view key) const;
+  // With the value set; the section and the key are added at their ends where they are missing.
+  IniDocument WithValue(std::string_view section, std::string_view key, std::string_view value) const;
+  // With an empty section added at the end.
+  IniDocument WithSection(std::string_view name) const;
+  // Without the section, its keys and the blank lines above it. Comments after its last key stay.
+  IniDocument WithoutSection(std::size_t section) const;
+  // The first key of that name in the section, by its number there; kNone when there is none.
+  std::size_t FindKeyOf(std::size_t section, std::string_view name) const;
+  IniDocument WithoutKey(std::size_t section, std::size_t key) const;
 
  private:
   struct Span {
@@ -70,6 +71,8 @@ class IniDocument {
   void ReadKey(Span line, Span content);
   void IndexNames();
   std::size_t FindKey(std::size_t section, std::string_view name) const;
+  IniDocument WithNewValue(std::size_t section, std::size_t key, std::string_view value) const;
+  std::string TextWithSection(std::string_view name) const;
   std::size_t LookUpSection(std::string_view name) const;
   std::size_t LookUpKey(std::size_t section, std::string_view name) const;
 

@@ -73,13 +73,13 @@ bool IniFile::Refresh() {
   return readable_;
 }
 
-void IniFile::Store(std::string text) {
+void IniFile::Store(IniDocument document) {
   // A file beyond the limit could not be read again: then the value is lost and the file stays.
-  if (text.size() > kMaxBytes) return;
+  if (document.Text().size() > kMaxBytes) return;
   watch_.reset();
-  if (!files_->Replace(path_, text)) return;
-  bytes_ = text;
-  document_ = std::make_shared<const IniDocument>(std::move(text));
+  if (!files_->Replace(path_, document.Text())) return;
+  bytes_ = document.Text();
+  document_ = std::make_shared<const IniDocument>(std::move(document));
 }
 
 void IniFile::RemoveKey(std::size_t section, std::string_view sectionName, std::string_view key) {
@@ -89,6 +89,6 @@ void IniFile::RemoveKey(std::size_t section, std::string_view sectionName, std::
       section < document_->SectionCount() && EqualIgnoringCase(document_->SectionName(section), sectionName);
   const std::size_t target = isThere ? section : document_->FindSection(sectionName);
   if (target == IniDocument::kNone) return;
-  std::string text = document_->WithoutKey(target, key);
-  if (text != document_->Text()) Store(std::move(text));
+  const std::size_t gone = document_->FindKeyOf(target, key);
+  if (gone != IniDocument::kNone) Store(document_->WithoutKey(target, gone));
 }

@@ -106,7 +106,7 @@ class IniFile {
 
   // Reads the file anew unless it is known to be unchanged; false when it is there but cannot be read.
   bool Refresh();
-  void Store(std::string text);
+  void Store(IniDocument document);
   void RemoveKey(std::size_t section, std::string_view sectionName, std::string_view key);
 
   Files* files_;
