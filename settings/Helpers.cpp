@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/CaseFold.h"
+#include "platform/toolkit/Wildcards.h"
 #include "settings/DataFolder.h"
 #include "settings/IniText.h"
 
@@ -22,31 +22,6 @@ std::uint64_t Seed(const Clock& clock) {
   const int inDay = ((now.hour * 60 + now.minute) * 60 + now.second) * 1000 + now.millisecond;
   const auto steady = static_cast<std::uint64_t>(clock.Steady().count());
   return Scatter(Scatter(static_cast<std::uint64_t>(inDay)) ^ steady);
-}
-
-bool MatchesFolded(std::string_view name, std::string_view pattern) {
-  std::size_t at = 0;
-  std::size_t inPattern = 0;
-  std::size_t afterStar = std::string_view::npos;
-  std::size_t retry = 0;
-  while (at < name.size()) {
-    if (inPattern < pattern.size() && pattern[inPattern] == '*') {
-      afterStar = ++inPattern;
-      retry = at;
-    } else if (inPattern < pattern.size() && (pattern[inPattern] == '?' || pattern[inPattern] == name[at])) {
-      const bool anySign = pattern[inPattern] == '?';
-      ++inPattern;
-      ++at;
-      // One "?" takes a whole sign, however many bytes it has.
-      while (anySign && at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80) ++at;
-    } else if (afterStar != std::string_view::npos) {
-      inPattern = afterStar;
-      at = ++retry;
-    } else {
-      return false;
-    }
-  }
-  return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
 }
 
 bool AnyNameMatches(const Files& files, const std::string& path) {
@@ -74,6 +49,8 @@ bool DeleteFolderTree(Files& files, std::string_view path) {
 
 bool FileExists(const Files& files, std::string_view path) {
   if (path.empty()) return false;
+  // A name on this disk may hold a backslash of its own.
+  if (files.Kind(std::string(path)) != FileKind::kAbsent) return true;
   const std::string mapped = WithPlatformSeparators(path);
   if (files.Kind(mapped) != FileKind::kAbsent) return true;
   return FileNameOfPath(mapped).find_first_of("*?") != std::string::npos && AnyNameMatches(files, mapped);
@@ -85,10 +62,6 @@ std::string FileNameOfPath(std::string_view path) {
 }
 
 std::string StripExtension(std::string_view name) { return std::string(TrimBlanks(name.substr(0, name.rfind('.')))); }
-
-bool MatchesPattern(std::string_view name, std::string_view pattern) {
-  return MatchesFolded(FoldCase(name), FoldCase(pattern));
-}
 
 std::int32_t RandomBetween(std::int32_t low, std::int32_t count, const Clock& clock) {
   const double uniform = static_cast<double>(Seed(clock) >> 11) * 0x1p-53;  // from 0 up to 1

@@ -23,9 +23,6 @@ std::string FileNameOfPath(std::string_view path);
 // The name up to its last ".", without blanks at both ends: "My clip.final.avi" gives "My clip.final".
 std::string StripExtension(std::string_view name);
 
-// Whether a name matches a pattern of "*" (any signs, also none) and "?" (one sign), case ignored.
-bool MatchesPattern(std::string_view name, std::string_view pattern);
-
 // A random whole number from `low` to `low + count - 1`, drawn anew from the clock at each call: two calls at the same
 // moment give the same number. `low` when `count` is 0.
 std::int32_t RandomBetween(std::int32_t low, std::int32_t count, const Clock& clock);

@@ -2,32 +2,35 @@
 
 #include <cstddef>
 
-#include "platform/toolkit/Fold.h"
+#include "platform/CaseFold.h"
 
 namespace {
 
 // The star that was met last is the only one that ever has to give way, so the time stays within the product of both
 // lengths.
-bool FitsOne(std::string_view name, std::string_view pattern) {
-  if (pattern == "*.*") return true;
-  std::size_t at = 0, in = 0;
-  std::size_t star = std::string_view::npos, resume = 0;
+bool MatchesFolded(std::string_view name, std::string_view pattern) {
+  std::size_t at = 0;
+  std::size_t inPattern = 0;
+  std::size_t afterStar = std::string_view::npos;
+  std::size_t retry = 0;
   while (at < name.size()) {
-    if (in < pattern.size() && pattern[in] == '*') {
-      star = in++;
-      resume = at;
-    } else if (in < pattern.size() && (pattern[in] == '?' || Folded(pattern[in]) == Folded(name[at]))) {
-      ++in;
+    if (inPattern < pattern.size() && pattern[inPattern] == '*') {
+      afterStar = ++inPattern;
+      retry = at;
+    } else if (inPattern < pattern.size() && (pattern[inPattern] == '?' || pattern[inPattern] == name[at])) {
+      const bool anySign = pattern[inPattern] == '?';
+      ++inPattern;
       ++at;
-    } else if (star != std::string_view::npos) {
-      in = star + 1;
-      at = ++resume;
+      // One "?" takes a whole sign, however many bytes it has.
+      while (anySign && at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80) ++at;
+    } else if (afterStar != std::string_view::npos) {
+      inPattern = afterStar;
+      at = ++retry;
     } else {
       return false;
     }
   }
-  while (in < pattern.size() && pattern[in] == '*') ++in;
-  return in == pattern.size();
+  return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
 }
 
 std::string_view Trimmed(std::string_view text) {
@@ -38,6 +41,10 @@ std::string_view Trimmed(std::string_view text) {
 
 }  // namespace
 
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  return MatchesFolded(FoldCase(name), FoldCase(pattern));
+}
+
 bool FitsPattern(std::string_view name, std::string_view patterns) {
   bool any = false;
   while (!patterns.empty()) {
@@ -46,7 +53,7 @@ bool FitsPattern(std::string_view name, std::string_view patterns) {
     patterns.remove_prefix(end == std::string_view::npos ? patterns.size() : end + 1);
     if (one.empty()) continue;
     any = true;
-    if (FitsOne(name, one)) return true;
+    if (one == "*.*" || MatchesPattern(name, one)) return true;
   }
   return !any;
 }

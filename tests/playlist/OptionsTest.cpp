@@ -116,7 +116,7 @@ TEST_F(OptionsTest, TheQuickFolderIsKeptLikewise) {
 TEST_F(OptionsTest, TheTitleAndTheClockLabelFollowTheClock) {
   Playlists();
   EXPECT_EQ(Playlists().Caption.Get(), "Playlist manager");
-  Advance(1s);
+  Advance(1100ms);
   EXPECT_EQ(Playlists().Caption.Get(), "Playlist- 7:00:01 AM");
   EXPECT_EQ(Playlists().lblTime.Caption.Get(), "7:00:01 AM");
 }
@@ -133,7 +133,7 @@ TEST_F(OptionsTest, ACloseOnlyHidesAndTheTimersRunOn) {
   Playlists().Close();
   EXPECT_FALSE(Playlists().Visible);
   EXPECT_TRUE(station.forms.Loaded<frmPlaylist>());
-  Advance(1s);
+  Advance(1100ms);
   EXPECT_EQ(Playlists().lblTime.Caption.Get(), "7:00:01 AM");
 }
 

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "platform/sim/SimFiles.h"
+#include "platform/toolkit/Wildcards.h"
 #include "settings/Helpers.h"
 
 namespace {

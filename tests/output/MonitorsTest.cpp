@@ -1,0 +1,184 @@
+#include "output/Placement.h"
+#include "output/frmOutputSett.h"
+#include "platform/toolkit/Failure.h"
+#include "tests/StationTest.h"
+
+using namespace std::chrono_literals;
+
+class MonitorsTest : public StationTest {
+ protected:
+  // The operator's display, and the one that feeds the transmitter at its right.
+  void TwoMonitors() {
+    sim.monitors.monitors = {{.handle = 11, .name = "DESK", .area = {0, 0, 1920, 1080}, .workArea = {0, 0, 1920, 1040}},
+                             {.handle = 22,
+                              .name = "AIR",
+                              .area = {1920, 0, 3840, 1080},
+                              .workArea = {1920, 0, 3840, 1080},
+                              .primary = true}};
+  }
+  void PlaceAt(int left, int top) {
+    Output().Left = left * 15;
+    Output().Top = top * 15;
+  }
+  std::pair<double, double> Place() { return {Output().Left / 15, Output().Top / 15}; }
+  using At = std::pair<double, double>;
+};
+
+TEST_F(MonitorsTest, TheWindowLandsInTheMiddleOfTheOtherMonitorAtItsOwnSize) {
+  TwoMonitors();
+  PlaceAt(100, 50);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{1920 + (1920 - 1030) / 2, (1080 - 768) / 2}));
+  EXPECT_EQ(Output().Width, 15450);
+}
+
+TEST_F(MonitorsTest, AWindowThatIsOnItsMonitorAlreadyIsLeftExactlyWhereItIsEvenHalfOutside) {
+  TwoMonitors();
+  PlaceAt(-400, 700);
+  Output().MoveTo(1);
+  EXPECT_EQ(Place(), (At{-400, 700}));
+}
+
+TEST_F(MonitorsTest, AWindowAtANegativeOffsetIsCentredAllTheSame) {
+  TwoMonitors();
+  PlaceAt(-200, -100);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{1920 + 445, 156}));
+}
+
+TEST_F(MonitorsTest, TheWindowCrossesToItsMonitorBeforeItIsMadeNormalThirtyTwoPixelsInsideAtLeast) {
+  TwoMonitors();
+  PlaceAt(-200, 40);
+  Output().Maximised = true;
+  At crossed;
+  const auto watching = Output().Maximised.Changed.Subscribe([&] { crossed = Place(); });
+  Output().MoveTo(2);
+  EXPECT_EQ(crossed, (At{1920 + 32, 40}));
+  EXPECT_FALSE(Output().Maximised);
+}
+
+TEST_F(MonitorsTest, AWindowLargerThanTheWorkAreaBeginsAtItsCornerAndOverhangs) {
+  TwoMonitors();
+  Output().Width = 2500 * 15;
+  Output().Height = 1400 * 15;
+  PlaceAt(-800, 0);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{1920, 0}));
+  EXPECT_EQ(Output().Width, 2500 * 15);
+}
+
+TEST_F(MonitorsTest, APanelOnTheLeftCountsIntoTheWorkWidthAndPushesTheWindowOffTheMiddle) {
+  TwoMonitors();
+  sim.monitors.monitors[1].workArea = {2020, 30, 3840, 1080};
+  const cMonitor monitor(sim.monitors.monitors[1]);
+  EXPECT_EQ(monitor.WorkWidth(), 1920);
+  EXPECT_EQ(monitor.WorkHeight(), 1080);
+  PlaceAt(0, 0);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{2020 + (1920 - 1030) / 2, 30 + (1080 - 768) / 2}));
+}
+
+TEST_F(MonitorsTest, WithASingleMonitorTheWindowStaysPut) {
+  PlaceAt(77, 66);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{77, 66}));
+}
+
+TEST_F(MonitorsTest, AWindowOutsideAllMonitorsStaysPut) {
+  TwoMonitors();
+  PlaceAt(9000, 9000);
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{9000, 9000}));
+}
+
+TEST_F(MonitorsTest, TheOrderIsTheDisplaysOwnAndMonitorOneNeedNotBeThePrimary) {
+  TwoMonitors();
+  const cMonitors monitors(sim.monitors);
+  EXPECT_EQ(monitors.MonitorCount(), 2);
+  EXPECT_FALSE(monitors.Monitor(1).IsPrimary());
+  EXPECT_TRUE(monitors.Monitor(2).IsPrimary());
+  EXPECT_EQ(monitors.Monitor(2).Name(), "AIR");
+  EXPECT_THROW(monitors.Monitor(0), Failure);
+  EXPECT_THROW(monitors.Monitor(3), Failure);
+}
+
+TEST_F(MonitorsTest, TheVirtualScreenSpansAllMonitors) {
+  TwoMonitors();
+  sim.monitors.monitors[0].area = {-1280, -200, 0, 824};
+  const cMonitors monitors(sim.monitors);
+  EXPECT_EQ(monitors.VirtualScreenLeft(), -1280);
+  EXPECT_EQ(monitors.VirtualScreenTop(), -200);
+  EXPECT_EQ(monitors.VirtualScreenWidth(), 3840 + 1280);
+  EXPECT_EQ(monitors.VirtualScreenHeight(), 1080 + 200);
+  EXPECT_EQ(monitors.MonitorForPoint(-1, 0)->Name(), "DESK");
+  EXPECT_FALSE(monitors.MonitorForPoint(0, 2000).has_value());
+}
+
+TEST_F(MonitorsTest, AMonitorPluggedInLaterIsSeenByAFreshWindowOnly) {
+  PlaceAt(0, 0);
+  Output().MoveTo(2);
+  TwoMonitors();
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{0, 0}));
+  station.forms.Unload<frmPlayer>();
+  Output().MoveTo(2);
+  EXPECT_EQ(Place().first, 1920 + 445);
+}
+
+TEST_F(MonitorsTest, AStartSendsTheWindowToMonitorTwoWhenItsKeySaysSo) {
+  TwoMonitors();
+  Set("Output", "Monitor2", "True");
+  ControlWindow();
+  EXPECT_TRUE(ControlWindow().OnMonitor2);
+  EXPECT_EQ(Place().first, 1920 + 445);
+}
+
+TEST_F(MonitorsTest, WithoutTheKeyTheWindowStillEndsOnMonitorOne) {
+  TwoMonitors();
+  sim.files.Put("/station/Window.ini", "[frmPlayer]\r\nLeft=30000\r\nTop=150\r\nWidth=15000\r\nHeight=9000\r\n");
+  ControlWindow();
+  EXPECT_FALSE(ControlWindow().OnMonitor2);
+  EXPECT_EQ(Place(), (At{460, 220}));
+}
+
+TEST_F(MonitorsTest, AfterTheRelayoutTheWindowStillStandsOnMonitorTwo) {
+  TwoMonitors();
+  Set("Output", "Monitor2", "True");
+  ControlWindow();
+  Advance(5s);
+  EXPECT_EQ(Place().first, 1920 + 445);
+}
+
+TEST_F(MonitorsTest, ThePressOnTheStripSendsAWindowThatStrayedBack) {
+  TwoMonitors();
+  ControlWindow();
+  PlaceAt(2500, 0);
+  ControlWindow().Picture1.PressMouse(MouseButton::kLeft);
+  EXPECT_EQ(Place().first, 445);
+}
+
+TEST_F(MonitorsTest, SetDisplayAlignsTheWindowToTheWorkAreaAndKeepsItsHeight) {
+  TwoMonitors();
+  Output().SetDisplay(cMonitor(sim.monitors.monitors[1]));
+  EXPECT_EQ(Place(), (At{1920, 0}));
+  EXPECT_EQ(Output().Width, 1920 * 15);
+  EXPECT_EQ(Output().Height, 11520);
+}
+
+TEST_F(MonitorsTest, TheOutputSettingsTryThePlacementOutOnThemselves) {
+  TwoMonitors();
+  auto& form = station.forms.Get<frmOutputSett>();
+  ASSERT_EQ(form.cboMonitors.ListCount(), 2);
+  form.cmdMove.Press();
+  EXPECT_EQ(form.Left / 15, 1920 + (1920 - 420) / 2);
+  form.cboMonitors.Pick(0);
+  form.cmdCentre.Press();
+  EXPECT_EQ(form.Left / 15, (1920 - 420) / 2);
+  EXPECT_EQ(form.Top / 15, (1040 - 200) / 2);
+  form.cboMonitors.Pick(1);
+  form.cmdMaximise.Press();
+  EXPECT_EQ(form.Left / 15, 1920);
+  EXPECT_TRUE(form.Maximised);
+  form.cmdCentre.Press();
+  EXPECT_FALSE(form.Maximised);
+}
