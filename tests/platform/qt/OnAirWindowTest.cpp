@@ -1,5 +1,3 @@
-#include "platform/qt/scene/OnAirWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <QImageReader>
@@ -12,6 +10,7 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/media/MpvEngine.h"
+#include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
 #include "platform/toolkit/Form.h"
