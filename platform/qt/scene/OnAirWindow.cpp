@@ -32,9 +32,8 @@ class FormItem : public QQuickItem {
   FormItem(std::function<void(MouseButton)> pressed, QQuickItem& parent)
       : QQuickItem(&parent), pressed_(std::move(pressed)) {
     setAcceptedMouseButtons(Qt::AllButtons);
-    connect(&parent, &QQuickItem::widthChanged, this, [this] { setWidth(parentItem()->width()); });
-    connect(&parent, &QQuickItem::heightChanged, this, [this] { setHeight(parentItem()->height()); });
   }
+  bool contains(const QPointF&) const override { return true; }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override {

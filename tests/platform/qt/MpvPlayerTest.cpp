@@ -27,9 +27,7 @@ class Heard : public MediaListener {
 class MpvPlayerTest : public testing::Test {
  protected:
   bool Reaches(PlayState state) {
-    return Until([&] {
-      return player->State() == state && (heard.states.empty() || heard.states.back() == state);
-    });
+    return Until([&] { return player->State() == state && (heard.states.empty() || heard.states.back() == state); });
   }
   // The colour at a place of the picture once it has become what is expected; otherwise what it is in the end.
   QColor ColourAt(QPoint place, const QColor& expected) {
@@ -65,8 +63,7 @@ TEST_F(MpvPlayerTest, AnItemPlaysToItsEndAndIsReportedEndedOnce) {
   player->Open(test_media::Clip("short.mp4", Qt::red, 0.6));
   ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
   Pass(100ms);
-  EXPECT_EQ(heard.states,
-            (std::vector{PlayState::kTransitioning, PlayState::kPlaying, PlayState::kMediaEnded}));
+  EXPECT_EQ(heard.states, (std::vector{PlayState::kTransitioning, PlayState::kPlaying, PlayState::kMediaEnded}));
   EXPECT_EQ(heard.opened, 1);
   EXPECT_EQ(player->Status(), "Finished");
   EXPECT_NEAR(player->Duration(), 0.6, 0.1);

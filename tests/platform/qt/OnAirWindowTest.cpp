@@ -1,17 +1,15 @@
-#include "platform/qt/scene/OnAirWindow.h"
-
 #include <gtest/gtest.h>
 
-#include <QImageReader>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 
-#include "platform/Pictures.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/media/MpvEngine.h"
+#include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
 #include "platform/toolkit/Form.h"
@@ -58,15 +56,6 @@ class frmProbe : public Form {
   PlayerControl Player{Media, "Player"};
 };
 
-class RealPictures : public Pictures {
- public:
-  std::optional<PixelSize> Size(const std::string& path) const override {
-    const QSize size = QImageReader(QString::fromStdString(path)).size();
-    if (!size.isValid()) return std::nullopt;
-    return PixelSize{size.width(), size.height()};
-  }
-};
-
 class OnAirWindowTest : public testing::Test, public Windows {
  protected:
   std::unique_ptr<FormWindow> Create(Form& created) override {
@@ -92,9 +81,9 @@ class OnAirWindowTest : public testing::Test, public Windows {
   Scene scene{scheduler, loader};
   PosixFiles files;
   MpvEngine media{MpvEngine::Decoding::kSoftware};
-  RealPictures pictures;
+  QtPictures pictures;
   QPointer<QQuickWindow> window;
-  World world{clock, scheduler, files, media, pictures, *this, sim.dialogs, sim.desktop};
+  World world{clock, scheduler, files, media, pictures, *this, sim.dialogs, sim.desktop, sim.monitors};
   Station station{world, test_media::PathOf("station")};
   frmProbe& form = station.forms.Get<frmProbe>();
 };

@@ -1,5 +1,3 @@
-#include "platform/qt/QtScheduler.h"
-
 #include <gtest/gtest.h>
 
 #include <QEventLoop>
@@ -7,6 +5,7 @@
 #include <vector>
 
 #include "platform/qt/QtClock.h"
+#include "platform/qt/QtScheduler.h"
 #include "tests/platform/qt/TestMedia.h"
 
 namespace {

@@ -27,8 +27,8 @@ std::string Clip(const std::string& name, const QColor& colour, double seconds, 
   const std::string path = PathOf(name);
   const QString picture =
       QString("color=c=%1:s=%2x%3:r=25:d=%4").arg(colour.name()).arg(size.width()).arg(size.height()).arg(seconds);
-  Ffmpeg({"-f", "lavfi", "-i", picture, "-f", "lavfi", "-i", QString("sine=duration=%1").arg(seconds), "-c:v", "libx264",
-          "-preset", "ultrafast", "-pix_fmt", "yuv420p", "-c:a", "aac"},
+  Ffmpeg({"-f", "lavfi", "-i", picture, "-f", "lavfi", "-i", QString("sine=duration=%1").arg(seconds), "-c:v",
+          "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p", "-c:a", "aac"},
          path);
   return path;
 }
