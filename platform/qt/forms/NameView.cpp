@@ -39,7 +39,7 @@ void NameView::mouseReleaseEvent(QMouseEvent* event) {
 
 void NameView::focusInEvent(QFocusEvent* event) {
   QListView::focusInEvent(event);
-  if (!selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
+  if (selectionModel() != nullptr && !selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
 }
 
 void NameView::keyPressEvent(QKeyEvent* event) {
