@@ -10,6 +10,7 @@ namespace {
 
 constexpr unsigned int kLocks = LockMask | Mod2Mask;  // Caps Lock and Num Lock
 constexpr unsigned int kWanted = ControlMask;
+constexpr unsigned int kInstant = 2;  // milliseconds
 constexpr unsigned int kModifiers = ShiftMask | ControlMask | Mod1Mask | Mod4Mask;
 
 }  // namespace
@@ -46,14 +47,17 @@ bool HotKeys::nativeEventFilter(const QByteArray& type, void* message, qintptr*)
   if (kind != XCB_KEY_PRESS && kind != XCB_KEY_RELEASE) return false;
   const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
   if (kind == XCB_KEY_RELEASE) {
-    held_.erase(key->detail);
+    released_[key->detail] = key->time;
     return false;
   }
   if ((key->state & kModifiers) != kWanted) return false;
   for (const auto& [id, one] : keys_) {
     if (one.code != key->detail) continue;
+    // A key that is held down is let go and pressed again in one instant.
+    const auto released = released_.find(one.code);
+    const bool repeated = released != released_.end() && key->time - released->second <= kInstant;
     // What the key does may stand in a dialog; the loop that delivers events must not.
-    if (held_.insert(one.code).second) {
+    if (!repeated) {
       QMetaObject::invokeMethod(QCoreApplication::instance(), one.pressed, Qt::QueuedConnection);
     }
     return true;

@@ -3,7 +3,6 @@
 #include <QAbstractNativeEventFilter>
 #include <functional>
 #include <map>
-#include <set>
 
 // Keys with Ctrl that the station hears whatever program has the keyboard, with Caps Lock and Num Lock on or off. A key
 // that is held down counts once. Nothing happens for a key that another program holds, and without X.
@@ -24,5 +23,6 @@ class HotKeys : public QAbstractNativeEventFilter {
   };
 
   std::map<int, Key> keys_;
-  std::set<unsigned int> held_;
+  std::map<unsigned int, unsigned int>
+      released_;  // key code, and when it was let go last, in the server's milliseconds
 };

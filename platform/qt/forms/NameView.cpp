@@ -37,6 +37,11 @@ void NameView::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
+void NameView::focusInEvent(QFocusEvent* event) {
+  QListView::focusInEvent(event);
+  if (selectionModel() != nullptr && !selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
+}
+
 void NameView::keyPressEvent(QKeyEvent* event) {
   const bool pick = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
   const QModelIndex before = currentIndex();

@@ -18,12 +18,14 @@
 
 namespace {
 
+constexpr char kNoMinimize[] = "noMinimize";
+
 QWidget* NewWindow(const Form& form) {
   std::unique_ptr<QWidget> window = LoadLayout(LayoutFile(Shown(form.Name())));
   if (!window) window = std::make_unique<QWidget>();
   Qt::WindowFlags flags = Qt::Window;
   if (window->property("frameless").toBool()) flags |= Qt::FramelessWindowHint;
-  if (window->property("noMinimize").toBool()) {
+  if (window->property(kNoMinimize).toBool()) {
     flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
              Qt::WindowCloseButtonHint;
   }
@@ -118,6 +120,12 @@ bool OperatorWindow::Seen(QEvent& event) {
       if (!notePending_ && Widget().isVisible()) {
         notePending_ = true;
         joint_.Later([this] { NotePlace(); }, std::chrono::milliseconds(100));
+      }
+      return false;
+    case QEvent::WindowStateChange:
+      // Some window managers offer the box all the same; the window is not to be lost behind it.
+      if (Widget().property(kNoMinimize).toBool() && Widget().isMinimized()) {
+        joint_.Later([this] { Widget().setWindowState(Widget().windowState() & ~Qt::WindowMinimized); });
       }
       return false;
     case QEvent::WinIdChange:

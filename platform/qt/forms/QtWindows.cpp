@@ -1,6 +1,7 @@
 #include "platform/qt/forms/QtWindows.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 
 #include "platform/qt/forms/OperatorWindow.h"
@@ -8,6 +9,7 @@
 
 QtWindows::QtWindows(OnAirMaker onAir, Surfaces surfaces) : onAir_(std::move(onAir)), surfaces_(std::move(surfaces)) {
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setWindowIcon(QIcon(":/art/corvanta.png"));
 }
 
 std::unique_ptr<FormWindow> QtWindows::Create(Form& form) {

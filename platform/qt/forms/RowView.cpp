@@ -17,9 +17,9 @@ RowView::RowView(QWidget* parent) : QTreeView(parent) {
 
 void RowView::SizeColumns() {
   const QStringList samples = property("columnSamples").toStringList();
-  const int margins = 2 * fontMetrics().averageCharWidth() + 2 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + fontMetrics().averageCharWidth());
   for (int column = 0; column < samples.size(); ++column) {
-    const int icon = column == 0 ? iconSize().width() + margins / 2 : 0;
+    const int icon = column == 0 ? style()->pixelMetric(QStyle::PM_SmallIconSize) + margins : 0;
     setColumnWidth(column, fontMetrics().horizontalAdvance(samples[column]) + margins + icon);
   }
 }
@@ -51,6 +51,11 @@ void RowView::mouseReleaseEvent(QMouseEvent* event) {
   const QModelIndex released = indexAt(event->position().toPoint());
   if (released.row() != pressed_.row()) return;
   emit clickedRow(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier) ? -1 : released.row());
+}
+
+void RowView::focusInEvent(QFocusEvent* event) {
+  QTreeView::focusInEvent(event);
+  if (selectionModel() != nullptr && !selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
 }
 
 void RowView::keyPressEvent(QKeyEvent* event) {
