@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <chrono>
 
+#include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/scene/FlashItem.h"
 #include "platform/qt/scene/MediaItem.h"
 #include "platform/qt/scene/PaneItem.h"
@@ -77,6 +78,8 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   const auto onTop = [this] { window_->setFlag(Qt::WindowStaysOnTopHint, form_.OnTop); };
   const auto visible = [this] {
     ApplyPlace();
+    window_->create();
+    SetWindowClass(*window_, form_.Name());
     window_->setVisible(form_.Visible);
   };
   following_.push_back(form.Caption.Changed.Subscribe(title));
