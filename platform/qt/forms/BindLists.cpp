@@ -75,7 +75,7 @@ void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces&) {
     model->Follow(change);
     if (change.what == ListChange::What::kEnsureVisible) {
       widget.scrollTo(model->index(change.index - 1, 0));
-    } else {
+    } else if (change.what != ListChange::What::kInserted || control.Row(change.index).selected) {
       ShowSelection(control, widget);
     }
   });

@@ -39,7 +39,8 @@ void NameView::mouseReleaseEvent(QMouseEvent* event) {
 
 void NameView::focusInEvent(QFocusEvent* event) {
   QListView::focusInEvent(event);
-  if (selectionModel() != nullptr && !selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
+  if (selectionModel() != nullptr && !selectionModel()->hasSelection())
+    selectionModel()->clearCurrentIndex();  // it would look chosen
 }
 
 void NameView::keyPressEvent(QKeyEvent* event) {

@@ -55,7 +55,8 @@ void RowView::mouseReleaseEvent(QMouseEvent* event) {
 
 void RowView::focusInEvent(QFocusEvent* event) {
   QTreeView::focusInEvent(event);
-  if (selectionModel() != nullptr && !selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();  // it would look chosen
+  if (selectionModel() != nullptr && !selectionModel()->hasSelection())
+    selectionModel()->clearCurrentIndex();  // it would look chosen
 }
 
 void RowView::keyPressEvent(QKeyEvent* event) {

@@ -19,7 +19,7 @@ TEST(AutoStart, TheEntryBearsItsNameAndStartsTheProgram) {
 }
 
 TEST(AutoStart, APathWithBlanksAndPercentSignsIsOneArgumentAndNoFieldCode) {
-  EXPECT_EQ(ExecOf("/home/tv/My App 100%u/corvanta"), "Exec=\"/home/tv/My App 100%%u/corvanta\"");
+  EXPECT_EQ(ExecOf("/srv/My App 100%u/corvanta"), "Exec=\"/srv/My App 100%%u/corvanta\"");
 }
 
 TEST(AutoStart, AShellsOwnLettersAreEscapedInBothLayers) {
