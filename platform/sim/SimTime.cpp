@@ -69,6 +69,8 @@ void SimTime::RunPosted() {
   }
 }
 
+void SimTime::AdvanceTo(const DateTime& moment) { Advance(SinceEpoch(moment) - wall_ - now_); }
+
 void SimTime::Advance(nanoseconds duration) {
   const nanoseconds target = now_ + duration;
   RunPosted();

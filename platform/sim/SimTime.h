@@ -15,6 +15,8 @@
 class SimTime : public Clock, public Scheduler {
  public:
   explicit SimTime(const DateTime& start = {.year = 2026, .month = 11, .day = 15, .hour = 7});
+  SimTime(const SimTime&) = delete;
+  SimTime& operator=(const SimTime&) = delete;
 
   std::chrono::nanoseconds Steady() const override { return now_; }
   DateTime Now() const override;
@@ -29,6 +31,8 @@ class SimTime : public Clock, public Scheduler {
   void Settle() { Advance(std::chrono::nanoseconds(0)); }
   // The wall clock steps; the steady clock does not.
   void StepWall(std::chrono::nanoseconds step) { wall_ += step; }
+  // Lets time pass until the wall clock shows the moment, which must not lie behind it.
+  void AdvanceTo(const DateTime& moment);
 
  private:
   struct Armed {

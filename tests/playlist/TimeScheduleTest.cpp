@@ -138,6 +138,16 @@ TEST_F(TimeScheduleTest, AClockSetForwardAMinuteStepsOverTheRowsOfThatMinute) {
   EXPECT_EQ(Aired(), Names{"2.mp4"});
 }
 
+TEST_F(TimeScheduleTest, ALeapAtMidnightRepeatsTheSecondThatItRepeatsAndLosesNone) {
+  Rows({"11:59:59 PM", "12:00:00 AM", "12:00:01 AM"});
+  sim.time.AdvanceTo({.year = 2026, .month = 11, .day = 15, .hour = 23, .minute = 59, .second = 58});
+  Aired();
+  Advance(2500ms);
+  sim.time.StepWall(-1s);
+  Advance(10s);
+  EXPECT_EQ(Aired(), (Names{"1.mp4", "2.mp4", "2.mp4", "3.mp4"}));
+}
+
 TEST_F(TimeScheduleTest, AClockStepWithinTheSecondLosesNoStart) {
   Rows({"07:00:11 AM", "07:00:12 AM", "07:00:13 AM"});
   Advance(10300ms);
