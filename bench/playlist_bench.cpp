@@ -34,7 +34,12 @@ std::string LongSchedule() {
 
 // A station with a running order of 10,000 rows open and as many rows in its day schedule.
 struct LongStation {
-  LongStation() {
+  SimWorld sim;
+  Station station{sim.world, "/station"};
+  frmPlaylist& form = Prepared();
+
+ private:
+  frmPlaylist& Prepared() {
     sim.files.CreateFolder("/clips");
     sim.files.Put("/clips/new.mp4", "media");
     sim.files.Put("/station/Playlist/Day.plt", LongPlaylist());
@@ -44,11 +49,8 @@ struct LongStation {
     station.stores.SettingsIni.WriteValue("Playlist", "LastPlaylist", "Day.plt");
     station.stores.SettingsIni.WriteValue("Playlist", "FolderPath", "/clips");
     sim.time.AdvanceTo({.year = 2026, .month = 11, .day = 15, .hour = 13});
+    return station.forms.Get<frmPlaylist>();
   }
-
-  SimWorld sim;
-  Station station{sim.world, "/station"};
-  frmPlaylist& form = station.forms.Get<frmPlaylist>();
 };
 
 void LoadsALongPlaylist(benchmark::State& state) {

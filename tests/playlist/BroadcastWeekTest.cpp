@@ -43,8 +43,8 @@ class LoggedStation {
       rows += weekday == 0 || weekday == 6 ? "Weekend.plt\r\n" : "Weekday.plt\r\n";
     }
     sim.files.Put("/station/Schedule.ini", rows);
-    auto& form = station.forms.Get<frmPlaylist>();
-    form.FilePlaylist.Refresh();
+    station.forms.Get<frmPlaylist>();
+    station.forms.Get<frmPlayer>().Timer1.Enabled = false;  // no crawler
   }
 
   void RunTo(const DateTime& moment) {
