@@ -33,8 +33,10 @@ void IniDocument::ReadLine(Span line, std::uint32_t& blankStart) {
   if (content.from == content.to) return;  // blank: `blankStart` stays where the run of blank lines began
 
   const char first = text_[content.from];
-  if (first != ';' && !(first == '[' && ReadHeader(line, content, blankStart)) && !sections_.empty()) {
-    ReadKey(line, content);
+  const bool isHeader = first == '[' && ReadHeader(line, content, blankStart);
+  if (!isHeader && first != ';' && !sections_.empty()) {
+    // A key that began with "[" could turn into a header with its next value, so there is none.
+    if (first != '[') ReadKey(line, content);
     sections_.back().bodyEnd = line.to;
   }
   blankStart = line.to;

@@ -10,7 +10,7 @@
 //
 //   ; a comment            a line whose first sign is ";"
 //   [Section]              the last "]" of the line closes the name; a comment may follow
-//   Key=Value              the first "=" ends the key; the value is all that follows
+//   Key=Value              the first "=" ends the key, which begins with no "["; the value is all that follows
 //   Key = Value            with a blank before "=": the value without the blanks around it
 //
 // Of sections or keys of the same name, case ignored, the first counts. Other lines mean nothing and are kept.

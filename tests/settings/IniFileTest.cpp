@@ -268,6 +268,15 @@ TEST_F(IniFileTest, AKeyNameThatWouldBreakItsLineIsStoredUnderAHarmlessOneAndFou
   EXPECT_EQ(ini.Sections().Item(1).Keys().Count(), 4u);
 }
 
+TEST_F(IniFileTest, ALineThatBeginsWithABracketIsNeverAKey) {
+  files.Put(kPath, "[One]\r\n[HD] News=http://x\r\n[open\r\nA=1\r\n");
+  EXPECT_EQ(ini.Sections().Count(), 1u);
+  EXPECT_EQ(ini.Sections().Item(1).Keys().Count(), 1u);
+  ini.WriteValue("One", "[HD] News", "http://[::1]");
+  EXPECT_EQ(Read("One", "[HD] News"), "http://[::1]");
+  EXPECT_EQ(Content(), "[One]\r\n[HD] News=http://x\r\n[open\r\nA=1\r\n(HD] News=http://[::1]\r\n");
+}
+
 TEST_F(IniFileTest, AnEmptyKeyNameIsAKeyLikeAnyOther) {
   ini.WriteValue("One", "", "v");
   EXPECT_EQ(Content(), "[One]\r\n=v\r\n");
