@@ -14,6 +14,8 @@ from harness.patience import until  # noqa: E402
 from harness.station import Station  # noqa: E402
 
 SPLASH = 2.0
+# The output window's own size: any other is laid out two seconds after the window opened.
+PLACE = (100, 20, 1030, 768)
 LOOK_EVERY = 0.002
 
 
@@ -31,16 +33,17 @@ def seconds_to_red(screen, start, place):
 
 def station_round(clip):
     with Desk() as desk:
-        station = Station(desk)
+        station = Station(desk, place=PLACE)
         station.playlist(clip)
         return seconds_to_red(desk.screen, station.start, station.place) - SPLASH
 
 
 def mpv_round(clip):
     with Desk() as desk:
-        place = (100, 60, 640, 360)
-        command = ["mpv", "--no-config", "--vo=x11", "--ao=null", "--no-border", "--geometry=640x360+100+60", str(clip)]
-        return seconds_to_red(desk.screen, lambda: desk.start(*command), place)
+        left, top, width, height = PLACE
+        geometry = f"--geometry={width}x{height}+{left}+{top}"
+        command = ["mpv", "--no-config", "--vo=x11", "--ao=null", "--no-border", "--no-keepaspect-window", geometry]
+        return seconds_to_red(desk.screen, lambda: desk.start(*command, str(clip)), PLACE)
 
 
 def main():

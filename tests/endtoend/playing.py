@@ -79,7 +79,7 @@ def random_play_shows_only_what_the_list_holds(desk):
 @scenario
 def pictures_and_sound_end_and_the_next_item_follows(desk):
     station = Station(desk, settings={"Playlist": {"LastPlaySchdule": "3"}})
-    station.playlist(media.picture("magenta"), media.tone(), media.clip("yellow", 1))
+    station.playlist(media.picture("magenta"), media.tone(), media.clip("yellow", 3))
     station.start_on_air()
     station.assert_plays("yellow", "magenta", "yellow", "magenta")
 

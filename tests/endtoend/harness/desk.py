@@ -11,7 +11,7 @@ from .screen import Screen
 class Desk:
     """Brings everything up on entering and takes it down on leaving. `folder` is scratch space that goes with it."""
 
-    def __init__(self, width=1280, height=800):
+    def __init__(self, width=1920, height=1080):
         self._size = f"{width}x{height}x24"
         self._started = []
         self.environment = dict(os.environ)

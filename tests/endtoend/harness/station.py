@@ -12,9 +12,10 @@ TWIPS = 15
 
 
 class Station:
-    """Stages `folder`. The output window stands at `place` (left, top, width, height in pixels)."""
+    """Stages `folder`. The output window stands at `place` (left, top, width, height in pixels), where forms and
+    questions, which come up in the middle, leave it free."""
 
-    def __init__(self, desk, name="station", place=(100, 60, 640, 360), settings=None):
+    def __init__(self, desk, name="station", place=(20, 20, 480, 270), settings=None):
         self.desk = desk
         self.screen = desk.screen
         self.folder = desk.folder / name
