@@ -23,6 +23,7 @@ frmMid::frmMid(Station& station) : Form(station.forms, "frmMid", Kind::kOperator
   Height = 260 * kTwipsPerPixel;
   ThemedButton5.Click.Connect([this] { station_.forms.Get<frmPlaylist>().PlayNext(); });
   ThemedButton6.Click.Connect([this] { station_.forms.Get<frmPlayer>().Player.controls.stop(); });
+  mnuPlayList.Click.Connect([this] { station_.forms.Get<frmPlaylist>().Show(); });
   Picture1.MouseDown.Connect([this](MouseButton) { MoveTo(); });
   Tray.DblClick.Connect([this] { Show(); });
 }

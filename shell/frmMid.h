@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/MenuItem.h"
 #include "platform/toolkit/TrayIcon.h"
 #include "platform/toolkit/Widgets.h"
 #include "settings/Station.h"
@@ -15,6 +16,7 @@ class frmMid : public Form {
   CommandButton ThemedButton5{*this, "ThemedButton5"};
   CommandButton ThemedButton6{*this, "ThemedButton6"};
   TrayIcon Tray{*this, "Tray"};
+  MenuItem mnuPlayList{*this, "mnuPlayList"};
 
   // What stands on air and on the menu, by the Show keys.
   bool OnMonitor2 = false;

@@ -153,6 +153,12 @@ TEST_F(StartUpTest, TheCloseBoxHidesTheControlWindowAndPlayGoesOn) {
   EXPECT_EQ(Aired(), (Names{"a.mp4", "b.mp4"}));
 }
 
+TEST_F(StartUpTest, TheMenuShowsThePlaylistManager) {
+  Start();
+  ControlWindow().mnuPlayList.Choose();
+  EXPECT_TRUE(Playlists().Visible);
+}
+
 TEST_F(StartUpTest, NoInTheExitBoxChangesNothingAndTheTaskbarStays) {
   Start();
   sim.trace.Take();

@@ -1,12 +1,15 @@
 #include "platform/qt/forms/Binder.h"
 
 #include <QAbstractScrollArea>
+#include <QAction>
+#include <QMenu>
 #include <algorithm>
 #include <set>
 
 #include "platform/qt/forms/Pressed.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/MenuItem.h"
 
 namespace {
 
@@ -20,6 +23,27 @@ QWidget& Ground(QWidget& widget) {
 
 Binder::Binder(Joint& joint, Form& form, const Surfaces& surfaces) : joint_(joint), form_(form), surfaces_(surfaces) {
   BindAll(form.Controls());
+  for (Component* component : form.Components()) {
+    if (auto* entry = dynamic_cast<MenuItem*>(component)) BindEntry(*entry);
+  }
+}
+
+void Binder::BindEntry(MenuItem& entry) {
+  auto* action = joint_.Window().findChild<QAction*>(Shown(entry.Name()));
+  if (action == nullptr) {
+    faults_.push_back(entry.Name() + ": missing in the layout");
+    return;
+  }
+  actions_.insert(action);
+  joint_.Follow(entry.Enabled.Changed, [&entry, action] { action->setEnabled(entry.Enabled); });
+  joint_.Follow(entry.Checked.Changed, [&entry, action] {
+    if (entry.Checked) action->setCheckable(true);
+    action->setChecked(entry.Checked);
+  });
+  joint_.On(action, &QAction::triggered, [&entry, action](bool) {
+    action->setChecked(entry.Checked);  // the tick is the form's to set
+    entry.Choose();
+  });
 }
 
 void Binder::BindAll(const std::vector<Control*>& controls) {
@@ -78,7 +102,18 @@ void Binder::AddStrangers(std::vector<std::string>& faults) const {
   for (const QWidget* widget : joint_.Window().findChildren<QWidget*>()) {
     const QString name = widget->objectName();
     const bool innards = name.startsWith("qt_") || widget->parentWidget()->inherits("QTabBar");
+    if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
+      AddStrangers(*menu, faults);
+      continue;
+    }
     if (name.isEmpty() || name.startsWith("lay") || innards || bound.contains(widget)) continue;
     faults.push_back(Stored(name) + ": in the layout, and no control of the form");
+  }
+}
+
+void Binder::AddStrangers(const QMenu& menu, std::vector<std::string>& faults) const {
+  for (QAction* action : menu.actions()) {
+    if (action->isSeparator() || action->menu() != nullptr || actions_.contains(action)) continue;
+    faults.push_back(Stored(action->objectName()) + ": in the menu, and no entry of the form");
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,9 +9,12 @@
 #include "platform/qt/forms/Joint.h"
 
 class Form;
+class MenuItem;
+class QAction;
+class QMenu;
 
-// Joins each control of a form with the widget that bears its name, and the form's icons in the notification area with
-// those of the desktop. A control without its widget works on unseen.
+// Joins each control of a form with the widget that bears its name, and each menu entry with its action. A control
+// without its widget works on unseen.
 class Binder {
  public:
   Binder(Joint& joint, Form& form, const Surfaces& surfaces);
@@ -26,11 +30,14 @@ class Binder {
   void BindAll(const std::vector<Control*>& controls);
   void BindOne(Control& control);
   void BindCommon(Control& control, QWidget& widget);
+  void BindEntry(MenuItem& entry);
   void AddStrangers(std::vector<std::string>& faults) const;
+  void AddStrangers(const QMenu& menu, std::vector<std::string>& faults) const;
 
   Joint& joint_;
   Form& form_;
   const Surfaces& surfaces_;
   std::map<const Control*, QWidget*> widgets_;
+  std::set<const QAction*> actions_;
   std::vector<std::string> faults_;
 };

@@ -160,8 +160,7 @@ bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
       settled_.start();
       break;
     case QEvent::Close:
-      event->ignore();
-      form_.Close();
+      event->ignore();  // a close key on the output display does not take the channel off the air
       return true;
     case QEvent::MouseButtonPress:
       pressedAt_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "platform/toolkit/Component.h"
+#include "platform/toolkit/Property.h"
+
+// An entry of a form's menu. Where it stands and what it says is in the form's layout file, under its name.
+class MenuItem : public Component {
+ public:
+  using Component::Component;
+
+  // The operator chooses it.
+  void Choose() {
+    if (Enabled) Handle([this] { Click.Raise(); });
+  }
+
+  Property<bool> Enabled{true};
+  Property<bool> Checked{false};
+  Event<> Click;
+};
