@@ -55,6 +55,7 @@ DateTime Stored(const QDateTime& shown) {
 }  // namespace
 
 void Bind(Joint& joint, Label& control, QLabel& widget, const Surfaces&) {
+  widget.setTextFormat(Qt::PlainText);
   FollowText(joint, control.Caption, widget.text(), [&widget](const QString& text) { widget.setText(text); });
 }
 

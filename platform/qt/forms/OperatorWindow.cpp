@@ -19,6 +19,7 @@
 namespace {
 
 constexpr char kNoMinimize[] = "noMinimize";
+constexpr std::chrono::milliseconds kWindowSettles(100), kScreensSettle(1000);
 
 QWidget* NewWindow(const Form& form) {
   std::unique_ptr<QWidget> window = LoadLayout(LayoutFile(Shown(form.Name())));
@@ -48,6 +49,8 @@ OperatorWindow::OperatorWindow(Form& form, const Surfaces& surfaces)
   for (Component* component : form.Components()) {
     if (auto* icon = dynamic_cast<TrayIcon*>(component)) Bind(joint_, *icon);
   }
+  joint_.On(qGuiApp, &QGuiApplication::screenRemoved,
+            [this](QScreen*) { joint_.Later([this] { BringIntoReach(); }, kScreensSettle); });
   joint_.OnEvents(&Widget(), [this](QEvent& event) { return Seen(event); });
 }
 
@@ -100,12 +103,16 @@ void OperatorWindow::ShowAsTheFormSays() {
     Widget().hide();
     return;
   }
-  const QRect wanted(Widget().pos(), Widget().size());
-  const QRect reachable = Reachable(wanted, ScreenAreas());
-  if (reachable != wanted) Widget().move(reachable.topLeft());
+  BringIntoReach();
   Widget().show();
   Widget().raise();
   Widget().activateWindow();
+}
+
+void OperatorWindow::BringIntoReach() {
+  const QRect reachable = Reachable(QRect(Widget().pos(), Widget().size()), ScreenAreas());
+  if (reachable.topLeft() != Widget().pos()) Widget().move(reachable.topLeft());
+  if (reachable.size() != Widget().size()) Widget().resize(reachable.size());
 }
 
 bool OperatorWindow::Seen(QEvent& event) {
@@ -119,7 +126,7 @@ bool OperatorWindow::Seen(QEvent& event) {
       // The window manager settles a window in several steps; the last one counts.
       if (!notePending_ && Widget().isVisible()) {
         notePending_ = true;
-        joint_.Later([this] { NotePlace(); }, std::chrono::milliseconds(100));
+        joint_.Later([this] { NotePlace(); }, kWindowSettles);
       }
       return false;
     case QEvent::WindowStateChange:

@@ -33,6 +33,7 @@ class OperatorWindow : public FormWindow {
   void Place();
   void ApplyOnTop();
   void ShowAsTheFormSays();
+  void BringIntoReach();
   bool Seen(QEvent& event);
   void NotePlace();
 

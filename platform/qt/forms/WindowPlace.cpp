@@ -5,6 +5,7 @@
 
 namespace {
 
+constexpr QSize kFrame(4, 32);  // room for a title bar and borders
 constexpr QSize kHold(80, 16);  // pixels of the upper edge that a hand can grasp
 
 bool InReach(const QRect& window, const QRect& screen) {
@@ -23,19 +24,21 @@ int Within(int wanted, int low, int high) { return std::max(low, std::min(wanted
 }  // namespace
 
 QRect Reachable(const QRect& wanted, const QList<QRect>& screens) {
+  QRect together;
+  for (const QRect& screen : screens) together |= screen;
+  if (together.isNull()) return wanted;
+  QRect window(wanted.topLeft(), wanted.size().boundedTo(together.size() - kFrame));
   int nearest = std::numeric_limits<int>::max();
   QRect home;
   for (const QRect& screen : screens) {
-    if (InReach(wanted, screen)) return wanted;
-    const int distance = Distance(wanted, screen);
+    if (InReach(window, screen)) return window;
+    const int distance = Distance(window, screen);
     if (distance < nearest) {
       nearest = distance;
       home = screen;
     }
   }
-  if (home.isNull()) return wanted;
-  QRect window = wanted;
-  window.moveTo(Within(wanted.left(), home.left(), home.right() + 1 - wanted.width()),
-                Within(wanted.top(), home.top(), home.bottom() + 1 - wanted.height()));
+  window.moveTo(Within(window.left(), home.left(), home.right() + 1 - window.width()),
+                Within(window.top(), home.top(), home.bottom() + 1 - window.height()));
   return window;
 }

@@ -3,22 +3,20 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "tests/platform/desktop/XServer.h"
+#include "tests/platform/desktop/Servers.h"
 
-// The calls of the desktop are tried on a real X server.
+// The calls of the desktop are tried on a real X server without a window manager, and on a real session bus.
 int main(int argc, char** argv) {
-  const XServer server;
-  if (server.Display().empty()) {
-    std::fputs("Xvfb did not start\n", stderr);
+  const Server screen{"Xvfb", "-displayfd", "%", "-screen", "0", "1280x800x24", "-nolisten", "tcp"};
+  const Server bus{"dbus-daemon", "--session", "--nofork", "--print-address", "%"};
+  if (screen.Told().empty() || bus.Told().empty()) {
+    std::fputs("Xvfb or dbus-daemon did not start\n", stderr);
     return 1;
   }
-  qputenv("DISPLAY", server.Display().c_str());
+  qputenv("DISPLAY", (":" + screen.Told()).c_str());
+  qputenv("DBUS_SESSION_BUS_ADDRESS", bus.Told().c_str());
   qputenv("QT_QPA_PLATFORM", "xcb");
-  int result = 0;
-  {
-    QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    result = RUN_ALL_TESTS();
-  }
-  return result;
+  QApplication application(argc, argv);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
 }

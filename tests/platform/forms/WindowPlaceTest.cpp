@@ -22,8 +22,15 @@ TEST(WindowPlace, AWindowAboveTheScreenComesDownSinceNobodyCouldGraspIt) {
   EXPECT_EQ(Reachable(QRect(100, -50, 600, 400), kTwoScreens), QRect(100, 0, 600, 400));
 }
 
-TEST(WindowPlace, AWindowLargerThanTheScreenShowsItsLeftTopCorner) {
-  EXPECT_EQ(Reachable(QRect(5000, 5000, 3000, 2000), {QRect(0, 0, 1280, 800)}), QRect(0, 0, 3000, 2000));
+TEST(WindowPlace, AWindowLargerThanAllScreensBecomesSmaller) {
+  const QRect fitted = Reachable(QRect(5000, 5000, 3000, 2000), {QRect(0, 0, 1280, 800)});
+  EXPECT_TRUE(QRect(0, 0, 1280, 800).contains(fitted));
+  EXPECT_GT(fitted.width(), 1200);
+}
+
+TEST(WindowPlace, AWindowMayReachOverTwoScreens) {
+  const QRect wide(100, 100, 2800, 600);
+  EXPECT_EQ(Reachable(wide, kTwoScreens), wide);
 }
 
 TEST(WindowPlace, WithoutAnyScreenNothingMoves) {
