@@ -55,9 +55,9 @@ struct QtWorld::Parts {
 };
 
 QtWorld::QtWorld(int& argc, char** argv)
-    : parts_(std::make_unique<Parts>(argc, argv)),
-      world{parts_->clock,   parts_->scheduler, parts_->files,   parts_->media,   parts_->pictures,
-            parts_->windows, parts_->dialogs,   parts_->desktop, parts_->monitors} {}
+    : parts_(std::make_unique<Parts>(argc, argv)), world{parts_->clock,   parts_->scheduler, parts_->files,
+                                                         parts_->media,   parts_->pictures,  parts_->windows,
+                                                         parts_->dialogs, parts_->desktop,   parts_->monitors} {}
 
 QtWorld::~QtWorld() = default;
 

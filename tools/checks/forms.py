@@ -5,7 +5,7 @@ import xml.etree.ElementTree
 
 # A control is a member that is handed its container and its name: `CheckBox chkTime{*this, "chkTime"}`.
 MEMBER = re.compile(r'\b([A-Z]\w+)\s+\w+\{\s*[\w*]+,\s*"(\w+)"')
-UNSEEN = {"Timer", "TrayIcon", "ImageList"}
+UNSEEN = {"Timer", "TrayIcon", "ImageList", "FormExtender"}
 # Widgets that only serve the layout.
 LAYOUT_ONLY = re.compile(r"lay")
 

@@ -3,7 +3,7 @@
 import re
 
 ABSENT_PAPERS = re.compile(r"\bspecificatio[n]\b|\bspec\.m[d]\b|\bPart [0-9]+\.[0-9]|\bissue #?[0-9]+", re.IGNORECASE)
-FOREIGN_PATHS = re.compile(r"(?<![\w.}$~])/(?:home|root|mnt|wor[k])/\w")
+FOREIGN_PATHS = re.compile(r"(?<![\w.}$~])/(?:root|wor[k])/\w")
 TEXT = {".h", ".cpp", ".py", ".md", ".txt", ".ui", ".qml", ".js", ".json", ".cmake", ".svg", ""}
 
 
