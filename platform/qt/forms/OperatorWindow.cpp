@@ -57,12 +57,11 @@ OperatorWindow::OperatorWindow(Form& form, const Surfaces& surfaces)
 OperatorWindow::~OperatorWindow() = default;
 
 void OperatorWindow::TakeLayoutsMeasures() {
-  const QSize size = Widget().size();
+  if (form_.Width == 0) form_.Width = ToTwips(Widget().width());
+  if (form_.Height == 0) form_.Height = ToTwips(Widget().height());
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect centred(QPoint(), size);
+  QRect centred(0, 0, Pixels(form_.Width), Pixels(form_.Height));
   centred.moveCenter(screen.center());
-  if (form_.Width == 0) form_.Width = ToTwips(size.width());
-  if (form_.Height == 0) form_.Height = ToTwips(size.height());
   if (form_.Left == 0) form_.Left = ToTwips(std::max(screen.left(), centred.left()));
   if (form_.Top == 0) form_.Top = ToTwips(std::max(screen.top(), centred.top()));
   if (form_.Caption.Get().empty()) form_.Caption = Stored(Widget().windowTitle());

@@ -31,14 +31,15 @@ QRect Reachable(const QRect& wanted, const QList<QRect>& screens) {
   int nearest = std::numeric_limits<int>::max();
   QRect home;
   for (const QRect& screen : screens) {
-    if (InReach(window, screen)) return window;
+    if (window.size() == wanted.size() && InReach(window, screen)) return window;
     const int distance = Distance(window, screen);
     if (distance < nearest) {
       nearest = distance;
       home = screen;
     }
   }
-  window.moveTo(Within(window.left(), home.left(), home.right() + 1 - window.width()),
-                Within(window.top(), home.top(), home.bottom() + 1 - window.height()));
+  const QPoint corner = home.bottomRight() + QPoint(1, 1) - QPoint(kFrame.width(), kFrame.height());
+  window.moveTo(Within(window.left(), home.left(), corner.x() - window.width()),
+                Within(window.top(), home.top(), corner.y() - window.height()));
   return window;
 }
