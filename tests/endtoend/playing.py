@@ -4,7 +4,7 @@
 import shutil
 
 from harness import media
-from harness.patience import throughout, until
+from harness.patience import throughout
 from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import Station
@@ -82,25 +82,6 @@ def pictures_and_sound_end_and_the_next_item_follows(desk):
     station.playlist(media.picture("magenta"), media.tone(), media.clip("yellow", 3))
     station.start_on_air()
     station.assert_plays("yellow", "magenta", "yellow", "magenta")
-
-
-@scenario
-def after_a_power_cut_the_item_goes_on_where_it_stood(desk):
-    station = Station(desk, settings={"Playlist": {"LastPlaySchdule": "2"}})
-    station.playlist(media.clip("red"), media.clip("blue", 60))
-    station.start_on_air()
-    until("a position of some seconds", lambda: position(station) > 3)
-    station.stop()
-    stood = position(station)
-    station.start_on_air()
-    station.await_colour("blue")
-    until("the position to go on", lambda: position(station) != stood)
-    assert stood - 1 <= position(station) < 50, position(station)
-    assert station.setting("Playlist", "LastPlaySchdule") == "2"
-
-
-def position(station):
-    return float(station.setting("Playlist", "LastPositionSchdule") or 0)
 
 
 @scenario

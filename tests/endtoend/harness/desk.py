@@ -12,6 +12,7 @@ class Desk:
     """Brings everything up on entering and takes it down on leaving. `folder` is scratch space that goes with it."""
 
     def __init__(self, width=1920, height=1080):
+        self._width, self._height = width, height
         self._size = f"{width}x{height}x24"
         self._started = []
         self.environment = dict(os.environ)
@@ -63,6 +64,15 @@ class Desk:
         os.environ.update(self.environment)
         self.screen = Screen(f":{number}")
         self.start("openbox")
+
+    def two_monitors(self):
+        """Makes two monitors of the one screen, each half as wide: LEFT is the first, RIGHT the second."""
+        half, height = self._width // 2, self._height
+        for name, left, output in (("LEFT", 0, "screen"), ("RIGHT", half, "none")):
+            subprocess.run(
+                ["xrandr", "--setmonitor", name, f"{half}/254x{height}/286+{left}+0", output],
+                check=True, timeout=20, env=self.environment,
+            )
 
     def start(self, *command, **more):
         """Starts a program on the desk; it is ended with the desk at the latest."""

@@ -36,6 +36,30 @@ def clip(colour, seconds=2):
     return _made(f"{colour}-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
 
 
+CLOCK_BITS = 8
+HALF_SECONDS = 2
+
+
+def clock(seconds=100):
+    """A video with its own time burnt in: CLOCK_BITS upright bars, the first one the lowest bit of the count of half
+    seconds since the start; a white bar is a one, a blue one a zero."""
+    bars = [
+        f"drawbox=x={640 * bit // CLOCK_BITS}:y=0:w={640 // CLOCK_BITS}:h=360:color=white:t=fill"
+        f":enable='mod(floor(t*{HALF_SECONDS}/{2**bit})\\,2)'"
+        for bit in range(CLOCK_BITS)
+    ]
+    video = ["-f", "lavfi", "-i", f"color=c=0x0000ff:s=640x360:r=25:d={seconds}", "-vf", ",".join(bars)]
+    return _made(f"clock-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
+
+
+def time_of_clock(pixels):
+    """Seconds that the bars show, from one pixel of each; None when they are not the clock's."""
+    names = [name_of(pixel) for pixel in pixels]
+    if not set(names) <= {"white", "blue"}:
+        return None
+    return sum(2**bit for bit, name in enumerate(names) if name == "white") / HALF_SECONDS
+
+
 def picture(colour):
     return _made(f"{colour}.png", "-f", "lavfi", "-i", f"color=c={_hex(colour)}:s=640x360:d=1", "-frames:v", "1")
 

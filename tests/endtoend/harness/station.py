@@ -94,6 +94,12 @@ class Station:
         }
         return seen.pop() if len(seen) == 1 else "mixed"
 
+    def clock(self):
+        """Seconds that the clip with the clock shows; None while something else is on the air."""
+        left, top, width, height = self.place
+        row = self.screen.pixels(left, top + height // 2, width, 1)[0]
+        return media.time_of_clock([row[(2 * bit + 1) * width // (2 * media.CLOCK_BITS)] for bit in range(media.CLOCK_BITS)])
+
     def await_colour(self, wanted):
         until(f"{wanted} on the air", lambda: self._is_alive() and self.colour() == wanted)
 
