@@ -4,8 +4,11 @@
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <thread>
+#include <vector>
 
 #include "platform/posix/PosixFiles.h"
 #include "platform/sim/SimFiles.h"
@@ -70,8 +73,17 @@ void WriteValue(benchmark::State& state) {
   PosixFiles files;
   IniFile ini(files);
   ini.SetPath(station.Path());
+  std::vector<double> microseconds;
   std::uint64_t position = 0;
-  for (auto _ : state) ini.WriteValue("Section7", "SettingNumber3", std::to_string(++position));
+  for (auto _ : state) {
+    const auto start = std::chrono::steady_clock::now();
+    ini.WriteValue("Section7", "SettingNumber3", std::to_string(++position));
+    const std::chrono::duration<double, std::micro> took = std::chrono::steady_clock::now() - start;
+    microseconds.push_back(took.count());
+  }
+  std::sort(microseconds.begin(), microseconds.end());
+  state.counters["median_us"] = microseconds[microseconds.size() / 2];
+  state.counters["p99_us"] = microseconds[microseconds.size() * 99 / 100];
 }
 BENCHMARK(WriteValue)->UseRealTime();
 
