@@ -16,6 +16,7 @@ class frmMid : public Form {
   CommandButton ThemedButton5{*this, "ThemedButton5"};
   CommandButton ThemedButton6{*this, "ThemedButton6"};
   TrayIcon Tray{*this, "Tray"};
+  MenuItem mnuPlayer{*this, "mnuPlayer"};
   MenuItem mnuPlayList{*this, "mnuPlayList"};
 
   // What stands on air and on the menu, by the Show keys.

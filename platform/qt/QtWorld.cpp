@@ -32,8 +32,7 @@ struct QtWorld::Parts {
         application((QApplication::setStyle(kStyle), argc), argv),
         media(graphics == Graphics::kSoftware ? MpvEngine::Decoding::kSoftware
                                               : MpvEngine::Decoding::kHardwareWhereThereIs),
-        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}),
-        desktop([] {}) {
+        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}) {
     application.setApplicationName("corvanta");
     application.setQuitOnLastWindowClosed(false);
   }

@@ -36,7 +36,11 @@ class Form {
   const std::vector<Control*>& Controls() const { return controls_; }
   World& Outside() const { return forms_.Outside(); }
 
-  void Show() { Visible = true; }
+  // Shows the form, and brings the window forward where it was on the screen already.
+  void Show() {
+    Visible = true;
+    ShowAsked.Raise();
+  }
   void Hide() { Visible = false; }
   void Focus(const Control& control);
   // The operator asks to close the window.
@@ -65,6 +69,7 @@ class Form {
   Property<Twips> Height;
 
   Event<MouseButton> MouseDown;
+  Event<> ShowAsked;  // also of a form that is visible
 
  protected:
   // Brings the form up, hidden.

@@ -5,7 +5,8 @@
 #include "platform/toolkit/Component.h"
 #include "platform/toolkit/Property.h"
 
-// An entry of a form's menu. Where it stands and what it says is in the form's layout file, under its name.
+// An entry of a form's menu, or a menu of entries. Where it stands and what it says is in the form's layout file, under
+// its name.
 class MenuItem : public Component {
  public:
   using Component::Component;

@@ -8,8 +8,6 @@
 #include "platform/qt/desktop/AutoStart.h"
 #include "platform/qt/desktop/Xlib.h"
 
-QtDesktop::QtDesktop(std::function<void()> lastWork) : lastWork_(std::move(lastWork)) {}
-
 void QtDesktop::RunAtLogOn(const std::string& name, const std::string& command) { WriteAutoStart(name, command); }
 
 void QtDesktop::RegisterHotKey(int id, char letter, std::function<void()> pressed) {
@@ -35,7 +33,7 @@ void QtDesktop::ShowCursor(bool show) {
 }
 
 void QtDesktop::EndProcess() {
-  if (lastWork_) lastWork_();
+  // What the store has written has taken its place on the disk already; the kernel keeps it past this process.
   if (Display* display = XDisplay()) XFlush(display);  // the panels that have just been brought back
   _exit(0);
 }

@@ -11,9 +11,6 @@
 // here waits for it.
 class QtDesktop : public Desktop {
  public:
-  // `lastWork` runs before the process is ended: what must reach the disk.
-  explicit QtDesktop(std::function<void()> lastWork);
-
   void RunAtLogOn(const std::string& name, const std::string& command) override;
   void RegisterHotKey(int id, char letter, std::function<void()> pressed) override;
   void SetScreenSaverActive(int value) override;
@@ -22,7 +19,6 @@ class QtDesktop : public Desktop {
   void EndProcess() override;
 
  private:
-  std::function<void()> lastWork_;
   HotKeys hotKeys_;
   ScreenAwake screenAwake_;
   Taskbar taskbar_;

@@ -30,6 +30,7 @@ Binder::Binder(Joint& joint, Form& form, const Surfaces& surfaces) : joint_(join
 
 void Binder::BindEntry(MenuItem& entry) {
   auto* action = joint_.Window().findChild<QAction*>(Shown(entry.Name()));
+  if (auto* menu = joint_.Window().findChild<QMenu*>(Shown(entry.Name()))) action = menu->menuAction();
   if (action == nullptr) {
     faults_.push_back(entry.Name() + ": missing in the layout");
     return;
@@ -112,8 +113,12 @@ void Binder::AddStrangers(std::vector<std::string>& faults) const {
 }
 
 void Binder::AddStrangers(const QMenu& menu, std::vector<std::string>& faults) const {
+  const auto check = [&](const QAction* action, const QString& name) {
+    if (!actions_.contains(action)) faults.push_back(Stored(name) + ": in the menu, and no entry of the form");
+  };
+  check(menu.menuAction(), menu.objectName());
   for (QAction* action : menu.actions()) {
-    if (action->isSeparator() || action->menu() != nullptr || actions_.contains(action)) continue;
-    faults.push_back(Stored(action->objectName()) + ": in the menu, and no entry of the form");
+    // A menu inside is looked at by itself.
+    if (!action->isSeparator() && action->menu() == nullptr) check(action, action->objectName());
   }
 }

@@ -73,12 +73,20 @@ void OperatorWindow::FollowForm() {
     joint_.Follow(measure->Changed, [this] { Place(); });
   }
   joint_.Follow(form_.OnTop.Changed, [this] { ApplyOnTop(); });
-  joint_.Follow(form_.Visible.Changed, [this] {
-    // A worker form is shown and hidden in one breath to bring it to life: only what stands after the handler counts.
-    if (showPending_) return;
-    showPending_ = true;
-    joint_.Later([this] { ShowAsTheFormSays(); });
-  });
+  joint_.Watch(form_.Maximised.Changed, [this] { ApplyState(); });
+  joint_.Follow(form_.Visible.Changed, [this] { ShowSoon(); });
+  joint_.Watch(form_.ShowAsked, [this] { ShowSoon(); });
+}
+
+// A worker form is shown and hidden in one breath to bring it to life: only what stands after the handler counts.
+void OperatorWindow::ShowSoon() {
+  if (showPending_) return;
+  showPending_ = true;
+  joint_.Later([this] { ShowAsTheFormSays(); });
+}
+
+void OperatorWindow::ApplyState() {
+  Widget().setWindowState(form_.Maximised ? Qt::WindowMaximized : Qt::WindowNoState);
 }
 
 void OperatorWindow::Place() {
@@ -129,6 +137,7 @@ bool OperatorWindow::Seen(QEvent& event) {
       }
       return false;
     case QEvent::WindowStateChange:
+      form_.Maximised = Widget().isMaximized();
       // Some window managers offer the box all the same; the window is not to be lost behind it.
       if (Widget().property(kNoMinimize).toBool() && Widget().isMinimized()) {
         joint_.Later([this] { Widget().setWindowState(Widget().windowState() & ~Qt::WindowMinimized); });

@@ -30,6 +30,8 @@ class OperatorWindow : public FormWindow {
  private:
   void TakeLayoutsMeasures();
   void FollowForm();
+  void ShowSoon();
+  void ApplyState();
   void Place();
   void ApplyOnTop();
   void ShowAsTheFormSays();

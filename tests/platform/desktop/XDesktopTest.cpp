@@ -52,7 +52,7 @@ class XDesktopTest : public ::testing::Test {
   Display* other;  // the connection of another program
   Window root;
   int pressed = 0;
-  QtDesktop desktop{[] {}};
+  QtDesktop desktop;
 };
 
 TEST_F(XDesktopTest, AHotKeyIsHeardWhateverHasTheKeyboardWithCapsAndNumLockOnToo) {
@@ -117,7 +117,7 @@ TEST_F(XDesktopTest, ThePanelsGoAndComeBackAndWhatWasHiddenBeforeStaysHidden) {
 TEST_F(XDesktopTest, ThePanelsThatAKilledRunHasHiddenComeBackInTheNext) {
   const Window panel = Panel();
   {
-    QtDesktop killed{[] {}};
+    QtDesktop killed;
     killed.SetTaskbarVisible(false);
   }
   EXPECT_FALSE(Mapped(panel));
