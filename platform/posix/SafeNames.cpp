@@ -47,7 +47,7 @@ std::string KeptName::Text() const {
 }
 
 bool KeptName::Parse(std::string_view name) {
-  if (!name.starts_with('.') || !name.ends_with(kKept)) return false;
+  if (!name.starts_with('.') || !name.ends_with(kKept) || name.size() == kKept.size()) return false;
   name.remove_prefix(1);
   name.remove_suffix(kKept.size());
   if (!TakeDigest(name, now) || !TakeDigest(name, before) || name.empty()) return false;
