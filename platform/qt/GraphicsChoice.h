@@ -6,6 +6,7 @@ enum class Graphics {
   kOpenGl,    // by a real graphics card
 };
 
-// Looks what drives this machine's graphics and has the on-air windows painted that way: a software OpenGL driver costs
-// several times what painting without OpenGL does. Call it before the application is made.
+// Sees to it that no desktop setting scales the windows, and looks what drives this machine's graphics and has the
+// on-air windows painted that way: a software OpenGL driver costs several times what painting without OpenGL does. Call
+// it before the application is made.
 Graphics ChooseGraphics();

@@ -4,8 +4,10 @@
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QScreen>
 #include <chrono>
 
+#include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/scene/FlashItem.h"
 #include "platform/qt/scene/MediaItem.h"
@@ -66,6 +68,8 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
       },
       *window_->contentItem());
   Mirror(form.Controls(), *window_->contentItem());
+  connect(window_, &QWindow::screenChanged, this, &OnAirWindow::FollowScreen);
+  FollowScreen(window_->screen());
 
   for (QTimer* timer : {&placeIsDue_, &settled_}) timer->setSingleShot(true);
   settled_.setInterval(kToSettle);
@@ -108,6 +112,10 @@ void OnAirWindow::Mirror(const std::vector<Control*>& controls, QQuickItem& pare
     items_.push_back(item);
     Mirror(control->Children(), *item);
   }
+}
+
+void OnAirWindow::FollowScreen(QScreen* screen) {
+  if (screen != nullptr) scene_.scheduler.SetFrameRate(screen->refreshRate());
 }
 
 void OnAirWindow::ApplyPlace() {

@@ -13,6 +13,7 @@
 class ControlItem;
 class QQuickItem;
 class QQuickWindow;
+class QScreen;
 
 // The real window behind an on-air form: borderless, one scene that mirrors the form's panes. It never takes the
 // keyboard by being shown.
@@ -41,6 +42,7 @@ class OnAirWindow : public QObject, public FormWindow {
   };
 
   void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
+  void FollowScreen(QScreen* screen);  // ticks come at the rate of the display that the window is on
   void ApplyPlace();
   void AdoptPlace();
   void EndDrag();
