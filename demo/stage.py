@@ -59,8 +59,8 @@ SETTINGS = {
     },
 }
 
-# Twips, 15 to a pixel: an output window of 1280 by 720 pixels.
-WINDOWS = {"frmPlayer": {"Left": "0", "Top": "0", "Width": "19200", "Height": "10800"}}
+# Twips, 15 to a pixel: an output window of 1024 by 576 pixels, which the control window in the middle leaves free.
+WINDOWS = {"frmPlayer": {"Left": "0", "Top": "0", "Width": "15360", "Height": "8640"}}
 
 
 def write_ini(path, sections):

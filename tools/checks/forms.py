@@ -6,8 +6,9 @@ import xml.etree.ElementTree
 # A control is a member that is handed its container and its name: `CheckBox chkTime{*this, "chkTime"}`.
 MEMBER = re.compile(r'\b([A-Z]\w+)\s+\w+\{\s*[\w*]+,\s*"(\w+)"')
 UNSEEN = {"Timer", "TrayIcon", "ImageList", "FormExtender"}
-# Widgets that only serve the layout.
+# Widgets that only serve the layout: by name, and menus, which hold entries and do nothing themselves.
 LAYOUT_ONLY = re.compile(r"lay")
+HOLDERS = {"QMenuBar", "QMenu"}
 
 
 def check(tree):
@@ -21,12 +22,14 @@ def check(tree):
         widgets = widget_names(tree.root / path)
         for name in sorted(controls - widgets):
             problems.append(f"{path} has no widget {name}, a control of {header.name}")
-        for name in sorted(widgets - controls):
+        for name in sorted(widgets - controls - widget_names(tree.root / path, HOLDERS)):
             problems.append(f"{header} has no control {name}, a widget of {path.name}; call mere layout lay{name}")
     return problems
 
 
-def widget_names(path):
+def widget_names(path, kinds=None):
+    """The names in a layout below its top; only of these classes, if any are given."""
     top = xml.etree.ElementTree.parse(path).getroot().find("widget")
-    names = [element.get("name") for element in top.iter() if element.tag in ("widget", "action") and element is not top]
+    widgets = [element for element in top.iter() if element.tag in ("widget", "action") and element is not top]
+    names = {element.get("name") for element in widgets if kinds is None or element.get("class") in kinds}
     return {name for name in names if name and not LAYOUT_ONLY.match(name)}
