@@ -1,6 +1,12 @@
 """A form's controls as a screen reader finds them: by the names on the screen."""
 
+import time
+
 from .patience import until
+
+# Of the lists in the forms, in pixels.
+ROW_HEIGHT = 15
+HEADER_HEIGHT = 20
 
 
 class Reader:
@@ -26,18 +32,37 @@ class Reader:
 
     def press(self, name, role="push button"):
         """Clicks a button with the mouse, where it stands."""
-        x, y = until(f'a {role} "{name}" on the screen', lambda: self._middle(name, role))
-        self._screen.click(x, y)
+        place = until(f'a {role} "{name}" on the screen', lambda: self._resting_place(name, role))
+        self._screen.click(place.x + place.width // 2, place.y + place.height // 2)
 
-    def _middle(self, name, role):
-        control = self.find(name, role)
-        if control is None:
-            return None
+    def press_row(self, name, role, row):
+        """Clicks a row of a list by its number from 0. The rows' own places are not always told rightly."""
+        place = until(f'a {role} "{name}" on the screen', lambda: self._resting_place(name, role))
+        header = HEADER_HEIGHT if role == "tree" else 0
+        self._screen.click(place.x + 60, int(place.y + header + (row + 0.5) * ROW_HEIGHT))
+
+    def text_of(self, name):
+        """What stands in the text field of that name; None when there is none."""
+        field = self.find(name, "text")
         try:
-            place = self._atspi.Component.get_extents(control, self._atspi.CoordType.SCREEN)
+            return None if field is None else self._atspi.Text.get_text(field, 0, -1)
         except self._gone():
             return None
-        return place.x + place.width // 2, place.y + place.height // 2
+
+    def _resting_place(self, name, role):
+        """Where it is, once its window has come to rest."""
+        first = self._place(name, role)
+        time.sleep(0.2)
+        now = self._place(name, role)
+        at_rest = first and now and (first.x, first.y, first.width) == (now.x, now.y, now.width)
+        return now if at_rest else None
+
+    def _place(self, name, role):
+        control = self.find(name, role)
+        try:
+            return control and self._atspi.Component.get_extents(control, self._atspi.CoordType.SCREEN)
+        except self._gone():
+            return None
 
     def _search(self, node, name, role):
         if node is None:
