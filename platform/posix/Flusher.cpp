@@ -92,13 +92,15 @@ bool PosixFiles::Flusher::KeepDurable(const std::string& target, Pending& pendin
   return true;
 }
 
-void PosixFiles::Flusher::Forget(const std::string& target) {
+void PosixFiles::Flusher::Forget(const std::string& path) {
   const std::lock_guard lock(mutex_);
-  const auto entry = pending_.find(target);
-  if (entry == pending_.end()) return;
-  if (!entry->second.kept.empty()) unlink(entry->second.kept.c_str());
-  if (!entry->second.next.empty()) unlink(entry->second.next.c_str());
-  pending_.erase(entry);
+  std::erase_if(pending_, [&path](const auto& entry) {
+    const auto& [target, pending] = entry;
+    if (target != path && !target.starts_with(path + "/")) return false;
+    if (!pending.kept.empty()) unlink(pending.kept.c_str());
+    if (!pending.next.empty()) unlink(pending.next.c_str());
+    return true;
+  });
 }
 
 void PosixFiles::Flusher::Run() {

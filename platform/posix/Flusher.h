@@ -20,8 +20,8 @@ class PosixFiles::Flusher {
   // Moves the file `unfinished`, which holds the content of that digest, to `target`, in one step. False when it cannot
   // be done; then `target` is as it was and `unfinished` still there.
   bool Swap(const std::string& target, const std::string& unfinished, std::uint64_t digest);
-  // Drops what is kept for a file that has been removed.
-  void Forget(const std::string& target);
+  // Drops what is kept for a file, or for all files under a folder, that is removed.
+  void Forget(const std::string& path);
 
  private:
   struct Pending {

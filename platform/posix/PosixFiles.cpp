@@ -138,7 +138,10 @@ bool PosixFiles::RemoveTree(const std::string& path) {
   const std::string target = ResolvePath(path);
   struct stat status;
   if (lstat(target.c_str(), &status) != 0) return errno == ENOENT;
-  return S_ISDIR(status.st_mode) && RemoveTreeAt(AT_FDCWD, target.c_str());
+  if (!S_ISDIR(status.st_mode)) return false;
+  // First, so that no name appears in the folder while it is emptied.
+  flusher_->Forget(target);
+  return RemoveTreeAt(AT_FDCWD, target.c_str());
 }
 
 bool PosixFiles::CreateFolder(const std::string& path) {

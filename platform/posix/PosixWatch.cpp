@@ -6,8 +6,10 @@
 
 namespace {
 
-// Longer than the clock tick of any file system that keeps times finer than seconds.
-constexpr std::chrono::milliseconds kRecent{20};
+// Longer than the tick of the clock that a file system takes its times from: some keep whole seconds only, FAT every
+// other one.
+constexpr std::chrono::milliseconds kFineTick{20};
+constexpr std::chrono::milliseconds kCoarseTick{3000};
 
 std::chrono::nanoseconds Nanoseconds(const timespec& time) {
   return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
@@ -36,8 +38,9 @@ std::unique_ptr<PosixWatch> PosixWatch::Start(const std::string& path, int descr
 PosixWatch::PosixWatch(const std::string& path, const struct stat& status)
     : path_(path), status_(status), pathSeen_(TimeOf(CLOCK_MONOTONIC_COARSE)) {
   const std::chrono::nanoseconds age = TimeOf(CLOCK_REALTIME) - Nanoseconds(status.st_ctim);
+  const std::chrono::nanoseconds tick = status.st_ctim.tv_nsec == 0 ? kCoarseTick : kFineTick;
   // A time that lies ahead was given before the clock was set back; what is written now gets another.
-  trusted_ = age > kRecent || age < -kRecent;
+  trusted_ = age > tick || age < -tick;
 }
 
 bool PosixWatch::Unchanged() {

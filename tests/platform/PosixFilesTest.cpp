@@ -127,6 +127,17 @@ TEST_F(PosixFilesTest, ATreeIsRemovedWithoutFollowingLinks) {
   EXPECT_EQ(files.Read(At("kept/file")), "x");
 }
 
+TEST_F(PosixFilesTest, AFolderIsRemovedWhileItsFilesAreOnTheirWayToTheMedium) {
+  PosixFiles files;
+  for (int round = 0; round < 50; ++round) {
+    ASSERT_TRUE(files.CreateFolder(At("ad")));
+    for (int i = 0; i < 10; ++i) ASSERT_TRUE(files.Replace(At("ad/adinfo.ini"), std::to_string(i)));
+    std::this_thread::sleep_for(std::chrono::milliseconds(round % 7));
+    ASSERT_TRUE(files.RemoveTree(At("ad")));
+    ASSERT_TRUE(Names().empty());
+  }
+}
+
 TEST_F(PosixFilesTest, TheRightsOfAFileOutliveAWrite) {
   WriteByOther(At("a.ini"), "old");
   chmod(At("a.ini").c_str(), 0640);

@@ -32,12 +32,10 @@ class MpvPlayerTest : public testing::Test {
   // The colour at a place of the picture once it has become what is expected; otherwise what it is in the end.
   QColor ColourAt(QPoint place, const QColor& expected) {
     QColor seen;
-    Until(
-        [&] {
-          if (const auto frame = Source().Take(); frame && !frame->isNull()) seen = frame->pixelColor(place);
-          return Near(seen, expected);
-        },
-        5s);
+    Until([&] {
+      if (const auto frame = Source().Take(); frame && !frame->isNull()) seen = frame->pixelColor(place);
+      return Near(seen, expected);
+    });
     return seen;
   }
   static bool Near(const QColor& one, const QColor& other) {
@@ -83,14 +81,14 @@ TEST_F(MpvPlayerTest, AToneAlonePlaysAndEndsLikeAnyOtherItem) {
 }
 
 TEST_F(MpvPlayerTest, APictureStandsForFiveSecondsAndEnds) {
-  player->Open(test_media::Picture("picture.jpg", Qt::green, {64, 64}));
   Source().SetTarget({64, 64});
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
+  const std::string picture = test_media::Picture("picture.jpg", Qt::green, {64, 64});
   QElapsedTimer standing;
   standing.start();
+  player->Open(picture);
   EXPECT_TRUE(Near(ColourAt({32, 32}, Qt::green), Qt::green));
   ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
-  EXPECT_GT(standing.elapsed(), 4000);
+  EXPECT_GT(standing.elapsed(), 4900);
 }
 
 TEST_F(MpvPlayerTest, AnotherItemInItsPlaceIsNoEnd) {
@@ -149,7 +147,7 @@ TEST_F(MpvPlayerTest, APausedItemGoesOnFromWhereItStood) {
   player->Play();
   ASSERT_TRUE(Reaches(PlayState::kPlaying));
   ASSERT_TRUE(Until([&] { return player->Position() > stood; }));
-  EXPECT_LT(player->Position(), stood + 1);
+  EXPECT_LT(player->Position(), stood + 5);
 }
 
 TEST_F(MpvPlayerTest, ASeekBeforeTheFileIsOpenIsKeptAndCarriedOut) {
@@ -162,7 +160,7 @@ TEST_F(MpvPlayerTest, ASeekBeforeTheFileIsOpenIsKeptAndCarriedOut) {
     return player->Position() > 20.3;
   }));
   EXPECT_FALSE(wentBack) << "who records the position meanwhile would record the start";
-  EXPECT_LT(player->Position(), 22);
+  EXPECT_LT(player->Position(), 29);
 }
 
 TEST_F(MpvPlayerTest, ASeekBeyondTheEndEndsTheItem) {
@@ -270,12 +268,12 @@ TEST_F(MpvPlayerTest, APausedPictureIsRenderedAnewForAnotherSize) {
 
 TEST_F(MpvPlayerTest, AnItemPlaysToItsEndWhileNobodyLooks) {
   Source().SetTarget({});
-  player->Open(test_media::Clip("unseen.mp4", Qt::red, 1));
+  player->Open(test_media::Clip("unseen.mp4", Qt::red, 2));
   ASSERT_TRUE(Reaches(PlayState::kPlaying));
   QElapsedTimer playing;
   playing.start();
   EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
-  EXPECT_LT(playing.elapsed(), 5000);
+  EXPECT_LT(playing.elapsed(), 9000) << "each frame waited for somebody to fetch it";
 }
 
 TEST_F(MpvPlayerTest, APlayerMayGoInTheMidstOfAnItem) {
@@ -300,7 +298,7 @@ TEST_F(MpvPlayerTest, AnAddressThatNeverAnswersHoldsUpNobody) {
   EXPECT_EQ(player->Status(), "Connecting...");
   player->Stop();
   player.reset();
-  EXPECT_LT(call.elapsed(), 5000);
+  EXPECT_LT(call.elapsed(), 15000);
 }
 
 }  // namespace

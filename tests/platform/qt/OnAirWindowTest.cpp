@@ -205,6 +205,21 @@ TEST_F(OnAirWindowTest, APlayerThatWasHiddenIsSeenAgain) {
   EXPECT_TRUE(Becomes(32, 40, Qt::blue));
 }
 
+TEST_F(OnAirWindowTest, AMovingPaneAndThePictureUnderItArePaintedTogether) {
+  form.Player.URL = test_media::Clip("under.mp4", Qt::blue, 30, {640, 180});
+  EXPECT_TRUE(Becomes(32, 40, Qt::blue));
+  int ticks = 0;
+  int paintings = 0;
+  scheduler.Start(1ms, TickPhase::kFromStart, [&] {
+    ++ticks;
+    form.Front.Left = form.Front.Left == 0.0 ? 15.0 : 0.0;
+  });
+  QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] { ++paintings; });
+  Pass(1500ms);
+  EXPECT_GT(paintings, 0);
+  EXPECT_LE(paintings, ticks + 1);
+}
+
 TEST_F(OnAirWindowTest, APressReachesThePaneUnderThePointer) {
   std::string pressed;
   form.Front.MouseDown.Connect([&](MouseButton) { pressed += "F"; });
