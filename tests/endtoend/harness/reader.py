@@ -20,7 +20,17 @@ class Reader:
     def find(self, name, role=None):
         """The first control on show with that name; None when there is none."""
         try:
-            return self._search(self._atspi.get_desktop(0), name, role)
+            desktop = self._atspi.get_desktop(0)
+            programs = (desktop.get_child_at_index(index) for index in range(desktop.get_child_count()))
+            return next(filter(None, (self._search(program, name, role) for program in programs)), None)
+        except self._gone():
+            return None
+
+    def text_of(self, name):
+        """What the entry field of that name holds; None when there is none."""
+        field = self.find(name, "text")
+        try:
+            return field and self._atspi.Text.get_text(field, 0, -1)
         except self._gone():
             return None
 
@@ -40,9 +50,10 @@ class Reader:
         return place.x + place.width // 2, place.y + place.height // 2
 
     def _search(self, node, name, role):
-        if node is None:
+        # What is inside a closed list says that it shows; that the list does not is the truth.
+        if node is None or not self._shows(node):
             return None
-        if node.get_name() == name and (role is None or node.get_role_name() == role) and self._shows(node):
+        if node.get_name() == name and (role is None or node.get_role_name() == role):
             return node
         for index in range(node.get_child_count()):
             found = self._search(node.get_child_at_index(index), name, role)
