@@ -1,8 +1,6 @@
 #!/usr/bin/python3
 """What goes on the air, and in which order."""
 
-import shutil
-
 from harness import media
 from harness.patience import throughout
 from harness.reader import Reader
@@ -12,15 +10,6 @@ from harness.station import Station
 
 def clips(*colours):
     return [media.clip(colour) for colour in colours]
-
-
-def folder_of(station, *files):
-    """A folder with these clips, named in this order."""
-    folder = station.folder / "Clips"
-    folder.mkdir()
-    for letter, file in zip("abc", files):
-        shutil.copy2(file, folder / f"{letter}.mp4")
-    return folder
 
 
 @scenario
@@ -56,7 +45,7 @@ def without_one_after_another_play_stops_at_the_end_of_the_item(desk):
 @scenario
 def a_folder_plays_from_its_second_file_on(desk):
     station = Station(desk, settings={"Settings": {"StartUp": "1"}, "Playlist": {"LastPlay": "0", "PlayLocation": "1"}})
-    folder = folder_of(station, *clips("red", "green", "blue"))
+    folder = station.clip_folder(*clips("red", "green", "blue"))
     station.change("Playlist", FolderPath=folder)
     station.start_on_air()
     Reader(desk.screen).press("Start broadcast")

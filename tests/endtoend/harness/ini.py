@@ -15,17 +15,27 @@ def write(path, sections):
 
 def value(path, section, key):
     """The value of a key, "" where there is none. Names ignore case."""
-    try:
-        content = path.read_bytes().decode("utf-8", errors="replace")
-    except OSError:
-        return ""
     here = ""
-    for line in content.splitlines():
-        line = line.strip()
-        if line.startswith("[") and line.endswith("]"):
+    for line in _lines(path):
+        if _names_a_section(line):
             here = line[1:-1].lower()
         elif here == section.lower() and "=" in line:
             name, _, found = line.partition("=")
             if name.strip().lower() == key.lower():
                 return found.strip()
     return ""
+
+
+def sections(path):
+    return [line[1:-1] for line in _lines(path) if _names_a_section(line)]
+
+
+def _lines(path):
+    try:
+        return [line.strip() for line in path.read_bytes().decode("utf-8", errors="replace").splitlines()]
+    except OSError:
+        return []
+
+
+def _names_a_section(line):
+    return line.startswith("[") and line.endswith("]")

@@ -4,10 +4,6 @@ import time
 
 from .patience import until
 
-# Of the lists in the forms, in pixels.
-ROW_HEIGHT = 15
-HEADER_HEIGHT = 20
-
 
 class Reader:
     """Looks at the programs on the bus that the environment names. Make it after the desk is up."""
@@ -26,7 +22,17 @@ class Reader:
     def find(self, name, role=None):
         """The first control on show with that name; None when there is none."""
         try:
-            return self._search(self._atspi.get_desktop(0), name, role)
+            desktop = self._atspi.get_desktop(0)
+            programs = (desktop.get_child_at_index(index) for index in range(desktop.get_child_count()))
+            return next(filter(None, (self._search(program, name, role) for program in programs)), None)
+        except self._gone():
+            return None
+
+    def text_of(self, name):
+        """What the entry field of that name holds; None when there is none."""
+        field = self.find(name, "text")
+        try:
+            return field and self._atspi.Text.get_text(field, 0, -1)
         except self._gone():
             return None
 
@@ -34,20 +40,6 @@ class Reader:
         """Clicks a button with the mouse, where it stands."""
         place = until(f'a {role} "{name}" on the screen', lambda: self._resting_place(name, role))
         self._screen.click(place.x + place.width // 2, place.y + place.height // 2)
-
-    def press_row(self, name, role, row):
-        """Clicks a row of a list by its number from 0. The rows' own places are not always told rightly."""
-        place = until(f'a {role} "{name}" on the screen', lambda: self._resting_place(name, role))
-        header = HEADER_HEIGHT if role == "tree" else 0
-        self._screen.click(place.x + 60, int(place.y + header + (row + 0.5) * ROW_HEIGHT))
-
-    def text_of(self, name):
-        """What stands in the text field of that name; None when there is none."""
-        field = self.find(name, "text")
-        try:
-            return None if field is None else self._atspi.Text.get_text(field, 0, -1)
-        except self._gone():
-            return None
 
     def _resting_place(self, name, role):
         """Where it is, once its window has come to rest."""
@@ -65,9 +57,10 @@ class Reader:
             return None
 
     def _search(self, node, name, role):
-        if node is None:
+        # What is inside a closed list says that it shows; that the list does not is the truth.
+        if node is None or not self._shows(node):
             return None
-        if node.get_name() == name and (role is None or node.get_role_name() == role) and self._shows(node):
+        if node.get_name() == name and (role is None or node.get_role_name() == role):
             return node
         for index in range(node.get_child_count()):
             found = self._search(node.get_child_at_index(index), name, role)

@@ -82,6 +82,9 @@ class Screen:
     def keys(self, *keys):
         self._do("key", *keys)
 
+    def type(self, text):
+        self._do("type", text)
+
     def click(self, x, y):
         self._do("mousemove", str(x), str(y), "click", "1")
 

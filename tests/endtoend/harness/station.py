@@ -2,6 +2,7 @@
 
 import os
 import shutil
+import string
 import time
 
 from . import ini, media
@@ -50,6 +51,14 @@ class Station:
                 "Duration": "0:0:2", "EndTime": f"07:{index:02}:02 AM", "FileName": "Item", "Path": str(path),
             }
         ini.write(self.folder / "Playlist" / name, rows)
+
+    def clip_folder(self, *files):
+        """A folder of the station with these files as a.mp4, b.mp4 and so on."""
+        folder = self.folder / "Clips"
+        folder.mkdir()
+        for letter, file in zip(string.ascii_lowercase, files):
+            shutil.copy2(file, folder / f"{letter}.mp4")
+        return folder
 
     def start(self):
         self._process = self.desk.start(self.folder / "corvanta", cwd="/")
