@@ -15,34 +15,37 @@ std::size_t TableSize(std::size_t names) { return std::bit_ceil(names * 2 + 1); 
 }  // namespace
 
 IniDocument::IniDocument(std::string text) : text_(std::move(text)) {
-  std::uint32_t blankStart = 0;
-  for (std::uint32_t at = 0; at < text_.size();) {
-    const void* end = std::memchr(text_.data() + at, '\n', text_.size() - at);
-    const auto next = end == nullptr ? static_cast<std::uint32_t>(text_.size())
-                                     : static_cast<std::uint32_t>(static_cast<const char*>(end) - text_.data() + 1);
-    ReadLine({at, next}, blankStart);
-    at = next;
-  }
+  ReadLinesFrom(0);
   IndexNames();
 }
 
-void IniDocument::ReadLine(Span line, std::uint32_t& blankStart) {
+void IniDocument::ReadLinesFrom(std::uint32_t at) {
+  while (at < text_.size()) {
+    const void* end = std::memchr(text_.data() + at, '\n', text_.size() - at);
+    const auto next = end == nullptr ? static_cast<std::uint32_t>(text_.size())
+                                     : static_cast<std::uint32_t>(static_cast<const char*>(end) - text_.data() + 1);
+    ReadLine({at, next});
+    at = next;
+  }
+}
+
+void IniDocument::ReadLine(Span line) {
   Span content = line;
   while (content.to > content.from && (text_[content.to - 1] == '\n' || text_[content.to - 1] == '\r')) --content.to;
   while (content.from < content.to && IsBlank(text_[content.from])) ++content.from;
-  if (content.from == content.to) return;  // blank: `blankStart` stays where the run of blank lines began
+  if (content.from == content.to) return;  // blank: `blankStart_` stays where the run of blank lines began
 
   const char first = text_[content.from];
-  const bool isHeader = first == '[' && ReadHeader(line, content, blankStart);
+  const bool isHeader = first == '[' && ReadHeader(line, content);
   if (!isHeader && first != ';' && !sections_.empty()) {
     // A key that began with "[" could turn into a header with its next value, so there is none.
     if (first != '[') ReadKey(line, content);
     sections_.back().bodyEnd = line.to;
   }
-  blankStart = line.to;
+  blankStart_ = line.to;
 }
 
-bool IniDocument::ReadHeader(Span line, Span content, std::uint32_t blankStart) {
+bool IniDocument::ReadHeader(Span line, Span content) {
   const std::string_view header = View(content);
   const std::size_t close = header.rfind(']');
   if (close == std::string_view::npos) return false;
@@ -50,7 +53,7 @@ bool IniDocument::ReadHeader(Span line, Span content, std::uint32_t blankStart) 
   if (!rest.empty() && rest.front() != ';') return false;
   Section section;
   section.name = {content.from + 1, content.from + static_cast<std::uint32_t>(close)};
-  section.start = blankStart;
+  section.start = blankStart_;
   section.bodyEnd = line.to;
   section.firstKey = static_cast<std::uint32_t>(keys_.size());
   sections_.push_back(section);
@@ -76,25 +79,33 @@ void IniDocument::IndexNames() {
   sectionTable_.assign(TableSize(sections_.size()), 0);
   keyTable_.assign(TableSize(keys_.size()), 0);
   for (std::uint32_t s = 0; s < sections_.size(); ++s) {
-    const std::string_view name = View(sections_[s].name);
-    std::size_t slot = HashIgnoringCase(name, 0) & (sectionTable_.size() - 1);
-    while (sectionTable_[slot] != 0 && !EqualIgnoringCase(View(sections_[sectionTable_[slot] - 1].name), name)) {
-      slot = (slot + 1) & (sectionTable_.size() - 1);
-    }
-    if (sectionTable_[slot] != 0) continue;  // a later twin, which no lookup by name may reach
-    sectionTable_[slot] = s + 1;
-
+    if (!IndexSection(s)) continue;  // a later twin, which no lookup by name may reach
     const Section& section = sections_[s];
-    for (std::uint32_t k = section.firstKey; k < section.firstKey + section.keyCount; ++k) {
-      const std::string_view keyName = View(keys_[k].name);
-      std::size_t keySlot = HashIgnoringCase(keyName, s + 1) & (keyTable_.size() - 1);
-      while (keyTable_[keySlot] != 0 && !(keyTable_[keySlot] > section.firstKey &&
-                                          EqualIgnoringCase(View(keys_[keyTable_[keySlot] - 1].name), keyName))) {
-        keySlot = (keySlot + 1) & (keyTable_.size() - 1);
-      }
-      if (keyTable_[keySlot] == 0) keyTable_[keySlot] = k + 1;
-    }
+    for (std::uint32_t k = section.firstKey; k < section.firstKey + section.keyCount; ++k) IndexKey(s, k);
   }
+}
+
+bool IniDocument::IndexSection(std::uint32_t section) {
+  const std::string_view name = View(sections_[section].name);
+  std::size_t slot = HashIgnoringCase(name, 0) & (sectionTable_.size() - 1);
+  while (sectionTable_[slot] != 0) {
+    const std::uint32_t other = sectionTable_[slot] - 1;
+    if (other == section) return true;
+    if (EqualIgnoringCase(View(sections_[other].name), name)) return false;
+    slot = (slot + 1) & (sectionTable_.size() - 1);
+  }
+  sectionTable_[slot] = section + 1;
+  return true;
+}
+
+void IniDocument::IndexKey(std::uint32_t section, std::uint32_t key) {
+  const std::string_view name = View(keys_[key].name);
+  std::size_t slot = HashIgnoringCase(name, section + 1) & (keyTable_.size() - 1);
+  while (keyTable_[slot] != 0 && !(keyTable_[slot] > sections_[section].firstKey &&
+                                   EqualIgnoringCase(View(keys_[keyTable_[slot] - 1].name), name))) {
+    slot = (slot + 1) & (keyTable_.size() - 1);
+  }
+  if (keyTable_[slot] == 0) keyTable_[slot] = key + 1;
 }
 
 std::size_t IniDocument::LookUpSection(std::string_view name) const {
@@ -147,10 +158,32 @@ IniDocument IniDocument::WithValue(std::string_view section, std::string_view ke
   const std::size_t s = FindSection(section);
   const std::size_t k = s == kNone ? kNone : FindKey(s, key);
   if (k != kNone) return WithNewValue(s, k, value);
-  std::string text = s == kNone ? TextWithSection(section) : text_;
-  const std::size_t at = s == kNone ? text.size() : sections_[s].bodyEnd;
-  text.insert(at, CleanKeyName(key).append("=").append(CleanValue(value)).append(kLineEnd));
+  const std::string line = CleanKeyName(key).append("=").append(CleanValue(value)).append(kLineEnd);
+  if (s == kNone) return WithLinesAtEnd(HeaderAtEnd(section).append(line));
+  if (sections_[s].bodyEnd == text_.size()) return WithLinesAtEnd(line);
+  std::string text = text_;
+  text.insert(sections_[s].bodyEnd, line);
   return IniDocument(std::move(text));
+}
+
+// An entry added to a long running order is five edits at its end: what has been read of the file stays.
+IniDocument IniDocument::WithLinesAtEnd(std::string_view lines) const {
+  IniDocument edited = *this;
+  const auto end = static_cast<std::uint32_t>(text_.size());
+  const auto knownKeys = static_cast<std::uint32_t>(keys_.size());
+  edited.text_.append(lines);
+  edited.ReadLinesFrom(end);
+  const bool fits = edited.sectionTable_.size() >= TableSize(edited.sections_.size()) &&
+                    edited.keyTable_.size() >= TableSize(edited.keys_.size());
+  if (!fits) {
+    edited.IndexNames();
+    return edited;
+  }
+  const auto section = static_cast<std::uint32_t>(edited.sections_.size()) - 1;
+  if (edited.IndexSection(section)) {
+    for (std::uint32_t k = knownKeys; k < edited.keys_.size(); ++k) edited.IndexKey(section, k);
+  }
+  return edited;
 }
 
 // The edit of every second of a broadcast: what has been read of the file stays and only moves.
@@ -176,6 +209,7 @@ IniDocument IniDocument::WithNewValue(std::size_t section, std::size_t key, std:
     move(edited.keys_[k].name);
     move(edited.keys_[k].value);
   }
+  edited.blankStart_ += shift;
   edited.sections_[section].bodyEnd += shift;
   for (std::size_t s = section + 1; s < edited.sections_.size(); ++s) {
     move(edited.sections_[s].name);
@@ -185,14 +219,13 @@ IniDocument IniDocument::WithNewValue(std::size_t section, std::size_t key, std:
   return edited;
 }
 
-std::string IniDocument::TextWithSection(std::string_view name) const {
-  std::string text = text_;
-  const bool endsBlank = text.empty() || text == kLineEnd || text.ends_with("\r\n\r\n");
-  if (!endsBlank) text.append(kLineEnd);
-  return text.append("[").append(CleanSectionName(name)).append("]").append(kLineEnd);
+std::string IniDocument::HeaderAtEnd(std::string_view name) const {
+  const bool endsBlank = text_.empty() || text_ == kLineEnd || text_.ends_with("\r\n\r\n");
+  std::string header(endsBlank ? "" : kLineEnd);
+  return header.append("[").append(CleanSectionName(name)).append("]").append(kLineEnd);
 }
 
-IniDocument IniDocument::WithSection(std::string_view name) const { return IniDocument(TextWithSection(name)); }
+IniDocument IniDocument::WithSection(std::string_view name) const { return WithLinesAtEnd(HeaderAtEnd(name)); }
 
 IniDocument IniDocument::WithoutSection(std::size_t section) const {
   const Section& gone = sections_[section];

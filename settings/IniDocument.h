@@ -66,17 +66,24 @@ class IniDocument {
   };
 
   std::string_view View(Span span) const { return std::string_view(text_).substr(span.from, span.to - span.from); }
-  void ReadLine(Span line, std::uint32_t& blankStart);
-  bool ReadHeader(Span line, Span content, std::uint32_t blankStart);
+  void ReadLinesFrom(std::uint32_t at);
+  void ReadLine(Span line);
+  bool ReadHeader(Span line, Span content);
   void ReadKey(Span line, Span content);
   void IndexNames();
+  // False for a later twin, which is not entered.
+  bool IndexSection(std::uint32_t section);
+  void IndexKey(std::uint32_t section, std::uint32_t key);
   std::size_t FindKey(std::size_t section, std::string_view name) const;
   IniDocument WithNewValue(std::size_t section, std::size_t key, std::string_view value) const;
-  std::string TextWithSection(std::string_view name) const;
+  // `lines` belong to the last section, or begin with the header of a new one.
+  IniDocument WithLinesAtEnd(std::string_view lines) const;
+  std::string HeaderAtEnd(std::string_view name) const;
   std::size_t LookUpSection(std::string_view name) const;
   std::size_t LookUpKey(std::size_t section, std::string_view name) const;
 
   std::string text_;
+  std::uint32_t blankStart_ = 0;  // where the blank lines at the end begin
   std::vector<Section> sections_;
   std::vector<Key> keys_;
   // Open hash tables of positions + 1; 0 is free, the size is a power of two.
