@@ -13,9 +13,9 @@ void FrameSource::SetTarget(QSize pixels) { exchange_->SetTarget(pixels); }
 
 std::optional<QImage> FrameSource::Take() {
   told_ = false;
-  if (std::exchange(blackIsDue_, false)) {
+  if (std::exchange(blackIsDue_, false) && !live_) {
     exchange_->Release();
-    if (!live_) return QImage();
+    return QImage();
   }
   return exchange_->Take();
 }

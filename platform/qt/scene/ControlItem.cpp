@@ -35,6 +35,12 @@ void ControlItem::Detach() {
   control_ = nullptr;
 }
 
+void ControlItem::SetCovered(bool covered) {
+  for (QQuickItem* child : childItems()) {
+    if (auto* item = dynamic_cast<ControlItem*>(child)) item->SetCovered(covered);
+  }
+}
+
 void ControlItem::Place() {
   setPosition(QPointF(ToPixels(control_->Left), ToPixels(control_->Top)));
   setSize(QSizeF(std::max(ToPixels(control_->Width), 0), std::max(ToPixels(control_->Height), 0)));

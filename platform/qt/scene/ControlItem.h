@@ -15,6 +15,8 @@ class ControlItem : public QQuickItem {
 
   // The control is about to go: the item follows it no more. It may itself live a little longer.
   virtual void Detach();
+  // Whether panes in front hide it wholly. It passes the word on to what it holds.
+  virtual void SetCovered(bool covered);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

@@ -27,6 +27,13 @@ void MediaItem::Detach() {
   frames_.clear();
 }
 
+// The last frame stays: a break leaves the paused item just as it found it.
+void MediaItem::SetCovered(bool covered) {
+  if (covered == covered_) return;
+  covered_ = covered;
+  polish();
+}
+
 void MediaItem::geometryChange(const QRectF& now, const QRectF& before) {
   ControlItem::geometryChange(now, before);
   polish();
@@ -48,7 +55,7 @@ void MediaItem::itemChange(ItemChange change, const ItemChangeData& data) {
 void MediaItem::updatePolish() {
   const QRectF whole(0, 0, width(), height());
   seen_ = parentItem() == nullptr ? whole : whole & mapRectFromItem(parentItem(), parentItem()->boundingRect());
-  if (frames_) frames_->SetTarget(isVisible() ? seen_.size().toSize() : QSize());
+  if (frames_) frames_->SetTarget(isVisible() && !covered_ ? seen_.size().toSize() : QSize());
   update();
 }
 

@@ -14,6 +14,7 @@ class MediaItem : public ControlItem {
   MediaItem(PlayerControl& player, QQuickItem& parent, Scene& scene);
 
   void Detach() override;
+  void SetCovered(bool covered) override;
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;
@@ -29,6 +30,7 @@ class MediaItem : public ControlItem {
   QPointer<FrameSource> frames_;
   QRectF seen_;  // the part that is seen, in the item's own measures
   QImage frame_;
+  bool covered_ = false;
   bool asked_ = false;
   bool frameIsNew_ = true;
 };

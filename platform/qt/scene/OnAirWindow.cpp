@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegion>
 #include <QScreen>
 #include <chrono>
 
@@ -68,12 +69,20 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
       },
       *window_->contentItem());
   Mirror(form.Controls(), *window_->contentItem());
+  for (ControlItem* pane : panes_) {
+    for (const auto changed : {&QQuickItem::xChanged, &QQuickItem::yChanged, &QQuickItem::widthChanged,
+                               &QQuickItem::heightChanged, &QQuickItem::visibleChanged}) {
+      connect(pane, changed, &coverIsDue_, [this] { coverIsDue_.start(0); });
+    }
+  }
+  coverIsDue_.start(0);
   connect(window_, &QWindow::screenChanged, this, &OnAirWindow::FollowScreen);
   FollowScreen(window_->screen());
 
-  for (QTimer* timer : {&placeIsDue_, &settled_}) timer->setSingleShot(true);
+  for (QTimer* timer : {&placeIsDue_, &coverIsDue_, &settled_}) timer->setSingleShot(true);
   settled_.setInterval(kToSettle);
   connect(&placeIsDue_, &QTimer::timeout, this, &OnAirWindow::ApplyPlace);
+  connect(&coverIsDue_, &QTimer::timeout, this, &OnAirWindow::FindCovered);
   connect(&settled_, &QTimer::timeout, this, &OnAirWindow::AdoptPlace);
   for (Property<Twips>* measure : {&form.Left, &form.Top, &form.Width, &form.Height}) {
     following_.push_back(measure->Changed.Subscribe([this] { placeIsDue_.start(0); }));
@@ -110,7 +119,19 @@ void OnAirWindow::Mirror(const std::vector<Control*>& controls, QQuickItem& pare
     if (item == nullptr) continue;
     item->setZ(z--);
     items_.push_back(item);
+    if (control->Container() == nullptr) panes_.push_back(item);
     Mirror(control->Children(), *item);
+  }
+}
+
+// A player behind an online channel plays on for hours: its picture need not be made meanwhile. Every pane is opaque.
+void OnAirWindow::FindCovered() {
+  QRegion front;
+  for (ControlItem* pane : panes_) {
+    if (!pane->isVisible()) continue;
+    const QRect place = QRectF(pane->position(), pane->size()).toRect();
+    pane->SetCovered(QRegion(place).subtracted(front).isEmpty());
+    if (dynamic_cast<PaneItem*>(pane) != nullptr) front += place;
   }
 }
 

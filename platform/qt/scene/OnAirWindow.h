@@ -43,6 +43,7 @@ class OnAirWindow : public QObject, public FormWindow {
 
   void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
   void FollowScreen(QScreen* screen);  // ticks come at the rate of the display that the window is on
+  void FindCovered();
   void ApplyPlace();
   void AdoptPlace();
   void EndDrag();
@@ -51,8 +52,10 @@ class OnAirWindow : public QObject, public FormWindow {
   Scene& scene_;
   QQuickWindow* window_;  // outlives this object until the event that it may be handling is over
   std::vector<ControlItem*> items_;
+  std::vector<ControlItem*> panes_;  // those directly on the form, front to back
   std::vector<Subscription> following_;
   QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
+  QTimer coverIsDue_;  // finds out, likewise once, which panes are hidden by others
   QTimer settled_;     // takes the window's place over into the form when it has come to rest
   QPoint pressedAt_;   // where on the screen a button went down last
   Drag drag_;

@@ -205,6 +205,23 @@ TEST_F(OnAirWindowTest, APlayerThatWasHiddenIsSeenAgain) {
   EXPECT_TRUE(Becomes(32, 40, Qt::blue));
 }
 
+TEST_F(OnAirWindowTest, APlayerBehindAPaneIsSparedItsPicturesAndComesBackWithThem) {
+  form.Player.URL = test_media::Clip("behind.mp4", Qt::blue, 60, {640, 180});
+  EXPECT_TRUE(Becomes(32, 40, Qt::blue));
+  form.Front.Width = 960;
+  form.Front.Height = 720;
+  EXPECT_TRUE(Becomes(32, 40, Qt::red));
+  Pass(200ms);
+  int paintings = 0;
+  QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] { ++paintings; });
+  Pass(500ms);
+  EXPECT_LE(paintings, 1);
+  form.Front.Visible = false;
+  EXPECT_TRUE(Becomes(32, 40, Qt::blue));
+  paintings = 0;
+  EXPECT_TRUE(Until([&] { return paintings > 5; }));
+}
+
 TEST_F(OnAirWindowTest, AMovingPaneAndThePictureUnderItArePaintedTogether) {
   form.Player.URL = test_media::Clip("under.mp4", Qt::blue, 30, {640, 180});
   EXPECT_TRUE(Becomes(32, 40, Qt::blue));
