@@ -92,8 +92,9 @@ def a_new_running_order_is_built_and_plays(desk):
     reader.press("b.mp4", "list item")
     reader.press("Add")
     until("the second entry", lambda: len(ini.sections(evening)) == 2)
-    desk.screen.ask_to_close(desk.screen.window(form="frmPlaylist"))
-    until("the manager to go", lambda: desk.screen.window(form="frmPlaylist") is None)
+    # The control window stands behind the manager; the key brings it forward.
+    desk.screen.keys("ctrl+m")
+    until("the control window in front", lambda: desk.screen.front() == "frmMid")
     reader.press("Start broadcast")
     station.await_colour("red")
     reader.press("Start broadcast")

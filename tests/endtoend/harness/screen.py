@@ -42,7 +42,7 @@ class Screen:
         xlib.XCloseDisplay(self._display)
 
     def windows(self):
-        """The windows on show that carry a class or a title."""
+        """The windows on show that carry a class or a title, from the back to the front."""
         found = []
         self._collect(self._root, found)
         return found
@@ -53,6 +53,10 @@ class Screen:
             if (form is None or seen.form == form) and (title is None or seen.title == title):
                 return seen
         return None
+
+    def front(self):
+        """The form in front of all others."""
+        return next((seen.form for seen in reversed(self.windows()) if seen.form), None)
 
     def pixels(self, x, y, width, height):
         """Rows of (red, green, blue); black where the rectangle cannot be read."""
