@@ -47,7 +47,7 @@ class MediaPlayer {
   virtual double Duration() const = 0;
   virtual PlayState State() const = 0;
   // The state in words, for the operator: "Playing", "Connecting...", "Buffering", "Stopped", "Paused", "Finished", "".
-  virtual std::string Status() const = 0;
+  std::string Status() const;
   // The present item has been opened.
   virtual bool IsOpen() const = 0;
 

@@ -109,25 +109,6 @@ double SimPlayer::Duration() const {
   return known == media_.durations_.end() ? 10 : known->second;
 }
 
-std::string SimPlayer::Status() const {
-  switch (state_) {
-    case PlayState::kStopped:
-      return "Stopped";
-    case PlayState::kPaused:
-      return "Paused";
-    case PlayState::kPlaying:
-      return "Playing";
-    case PlayState::kBuffering:
-      return "Buffering";
-    case PlayState::kMediaEnded:
-      return "Finished";
-    case PlayState::kTransitioning:
-      return "Connecting...";
-    default:
-      return "";
-  }
-}
-
 // Told as the real players tell it: from the message loop, never from inside the caller's own statement.
 void SimPlayer::Enter(PlayState state) {
   state_ = state;

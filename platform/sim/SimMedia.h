@@ -55,7 +55,6 @@ class SimPlayer : public MediaPlayer {
   void SetPosition(double seconds) override;
   double Duration() const override;
   PlayState State() const override { return state_; }
-  std::string Status() const override;
   bool IsOpen() const override { return open_; }
   void SetMute(bool mute) override { mute_ = mute; }
   void SetVolume(int percent) override { volume_ = percent; }

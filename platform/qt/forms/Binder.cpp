@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <set>
 
-#include "platform/qt/forms/Pressed.h"
+#include "platform/qt/Pressed.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/MenuItem.h"

@@ -7,9 +7,9 @@
 #include <QWindow>
 #include <optional>
 
+#include "platform/qt/Pressed.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/forms/FormLoader.h"
-#include "platform/qt/forms/Pressed.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/qt/forms/TrayBinding.h"
 #include "platform/qt/forms/WindowDrag.h"

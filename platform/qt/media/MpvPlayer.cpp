@@ -129,27 +129,6 @@ void MpvPlayer::Seek() {
   mpv_->Command({"seek", std::to_string(*wish_), "absolute+exact"}, seekTicket_);
 }
 
-std::string MpvPlayer::Status() const {
-  switch (state_) {
-    case PlayState::kStopped:
-      return "Stopped";
-    case PlayState::kPaused:
-      return "Paused";
-    case PlayState::kPlaying:
-      return "Playing";
-    case PlayState::kBuffering:
-      return "Buffering";
-    case PlayState::kMediaEnded:
-      return "Finished";
-    case PlayState::kTransitioning:
-      return "Connecting...";
-    case PlayState::kUndefined:
-    case PlayState::kReady:
-      break;
-  }
-  return "";
-}
-
 void MpvPlayer::SetMute(bool mute) {
   mute_ = mute;
   if (mpv_) mpv_->Set(mpv_names::kMute, mute);

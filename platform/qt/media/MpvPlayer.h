@@ -26,7 +26,6 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void SetPosition(double seconds) override;
   double Duration() const override { return duration_; }
   PlayState State() const override { return state_; }
-  std::string Status() const override;
   bool IsOpen() const override { return open_; }
   void SetMute(bool mute) override;
   void SetVolume(int percent) override;

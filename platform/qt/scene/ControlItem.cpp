@@ -3,20 +3,9 @@
 #include <QMouseEvent>
 #include <cmath>
 
-int ToPixels(Twips twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
+#include "platform/qt/Pressed.h"
 
-std::optional<MouseButton> ToMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return MouseButton::kLeft;
-    case Qt::RightButton:
-      return MouseButton::kRight;
-    case Qt::MiddleButton:
-      return MouseButton::kMiddle;
-    default:
-      return std::nullopt;
-  }
-}
+int ToPixels(Twips twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
 
 ControlItem::ControlItem(Control& control, QQuickItem& parent) : QQuickItem(&parent), control_(&control) {
   setFlag(ItemHasContents);
@@ -48,6 +37,6 @@ void ControlItem::Place() {
 
 void ControlItem::mousePressEvent(QMouseEvent* event) {
   event->accept();
-  const auto button = ToMouseButton(event->button());
+  const auto button = Pressed(*event);
   if (control_ != nullptr && button) control_->PressMouse(*button);
 }

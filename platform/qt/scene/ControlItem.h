@@ -36,6 +36,3 @@ class ControlItem : public QQuickItem {
 
 // The nearest whole pixel; halves go the same way on both sides of zero, so that a crawl steps evenly.
 int ToPixels(Twips twips);
-
-// What presses mean to the toolkit; other buttons mean nothing.
-std::optional<MouseButton> ToMouseButton(Qt::MouseButton button);

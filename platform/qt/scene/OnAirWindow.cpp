@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <chrono>
 
+#include "platform/qt/Pressed.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/scene/FlashItem.h"
@@ -41,7 +42,7 @@ class FormItem : public QQuickItem {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override {
-    if (const auto button = ToMouseButton(event->button())) pressed_(*button);
+    if (const auto button = Pressed(*event)) pressed_(*button);
   }
 
  private:
