@@ -49,31 +49,6 @@ class MpvPlayerTest : public testing::Test {
   std::unique_ptr<MediaPlayer> player = engine.NewPlayer("player", heard);
 };
 
-TEST_F(MpvPlayerTest, AFreshPlayerIsIdle) {
-  EXPECT_EQ(player->State(), PlayState::kUndefined);
-  EXPECT_EQ(player->Status(), "");
-  EXPECT_EQ(player->Position(), 0);
-  EXPECT_EQ(player->Duration(), 0);
-  EXPECT_FALSE(player->IsOpen());
-}
-
-TEST_F(MpvPlayerTest, AnItemPlaysToItsEndAndIsReportedEndedOnce) {
-  player->Open(test_media::Clip("short.mp4", Qt::red, 0.6));
-  ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
-  Pass(100ms);
-  EXPECT_EQ(heard.states, (std::vector{PlayState::kTransitioning, PlayState::kPlaying, PlayState::kMediaEnded}));
-  EXPECT_EQ(heard.opened, 1);
-  EXPECT_EQ(player->Status(), "Finished");
-  EXPECT_NEAR(player->Duration(), 0.6, 0.1);
-}
-
-TEST_F(MpvPlayerTest, TheDurationIsKnownWhenTheMediaChangeIsHeard) {
-  player->Open(test_media::Clip("ten.mp4", Qt::red, 10));
-  ASSERT_TRUE(Until([&] { return heard.opened == 1; }));
-  EXPECT_NEAR(player->Duration(), 10, 0.2);
-  EXPECT_TRUE(player->IsOpen());
-}
-
 TEST_F(MpvPlayerTest, AToneAlonePlaysAndEndsLikeAnyOtherItem) {
   player->Open(test_media::Tone("tone.wav", 0.4));
   EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
@@ -91,16 +66,6 @@ TEST_F(MpvPlayerTest, APictureStandsForFiveSecondsAndEnds) {
   EXPECT_GT(standing.elapsed(), 4900);
 }
 
-TEST_F(MpvPlayerTest, AnotherItemInItsPlaceIsNoEnd) {
-  player->Open(test_media::Clip("first.mp4", Qt::red, 5));
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->Open(test_media::Clip("second.mp4", Qt::blue, 0.5));
-  EXPECT_EQ(player->State(), PlayState::kTransitioning);
-  ASSERT_TRUE(Reaches(PlayState::kMediaEnded));
-  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 1);
-  EXPECT_EQ(heard.Times(PlayState::kPlaying), 2);
-}
-
 TEST_F(MpvPlayerTest, TheEndOfAFormerItemIsNotTakenForThatOfTheNext) {
   const std::string brief = test_media::Clip("brief.mp4", Qt::red, 0.2);
   const std::string lasting = test_media::Clip("lasting.mp4", Qt::blue, 20);
@@ -113,61 +78,6 @@ TEST_F(MpvPlayerTest, TheEndOfAFormerItemIsNotTakenForThatOfTheNext) {
     EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
     EXPECT_NEAR(player->Duration(), 20, 0.2);
   }
-}
-
-TEST_F(MpvPlayerTest, AStopIsNoEnd) {
-  player->Open(test_media::Clip("stopped.mp4", Qt::red, 5));
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->Stop();
-  EXPECT_EQ(player->State(), PlayState::kStopped);
-  EXPECT_EQ(player->Position(), 0);
-  Pass(300ms);
-  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
-  EXPECT_EQ(player->Status(), "Stopped");
-}
-
-TEST_F(MpvPlayerTest, PlayAfterAStopStartsTheItemAgain) {
-  player->Open(test_media::Clip("again.mp4", Qt::red, 5));
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->Stop();
-  player->Play();
-  EXPECT_TRUE(Reaches(PlayState::kPlaying));
-}
-
-TEST_F(MpvPlayerTest, APausedItemGoesOnFromWhereItStood) {
-  player->Open(test_media::Clip("pause.mp4", Qt::red, 10));
-  player->SetPosition(4);
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->Pause();
-  ASSERT_TRUE(Reaches(PlayState::kPaused));
-  Pass(200ms);
-  const double stood = player->Position();
-  Pass(400ms);
-  EXPECT_EQ(player->Position(), stood);
-  player->Play();
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  ASSERT_TRUE(Until([&] { return player->Position() > stood; }));
-  EXPECT_LT(player->Position(), stood + 5);
-}
-
-TEST_F(MpvPlayerTest, ASeekBeforeTheFileIsOpenIsKeptAndCarriedOut) {
-  player->Open(test_media::Clip("resume.mp4", Qt::red, 30));
-  player->SetPosition(20);
-  EXPECT_EQ(player->Position(), 20);
-  bool wentBack = false;
-  ASSERT_TRUE(Until([&] {
-    wentBack = wentBack || player->Position() < 19.9;
-    return player->Position() > 20.3;
-  }));
-  EXPECT_FALSE(wentBack) << "who records the position meanwhile would record the start";
-  EXPECT_LT(player->Position(), 29);
-}
-
-TEST_F(MpvPlayerTest, ASeekBeyondTheEndEndsTheItem) {
-  player->Open(test_media::Clip("beyond.mp4", Qt::red, 10));
-  ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->SetPosition(1000);
-  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
 }
 
 TEST_F(MpvPlayerTest, WhatIsNoMediaRaisesNoEnd) {

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/media/MpvEngine.h"
+#include "platform/sim/SimWorld.h"
+#include "tests/platform/qt/TestMedia.h"
+
+// The two worlds behind one face, for what both must do alike.
+
+class VirtualWorld {
+ public:
+  void Pass(std::chrono::milliseconds time) { sim.time.Advance(time); }
+  bool Until(const std::function<bool()>& condition) {
+    for (int i = 0; i < 60'000 && !condition(); ++i) Pass(std::chrono::milliseconds(1));
+    return condition();
+  }
+  std::string Clip(const std::string& name, double seconds) {
+    sim.files.Put("/" + name, "media");
+    sim.media.SetDuration("/" + name, seconds);
+    return "/" + name;
+  }
+  static std::string Absent() { return "/absent.mp4"; }
+
+  SimWorld sim;
+  Scheduler& scheduler = sim.time;
+  MediaEngine& media = sim.media;
+};
+
+class RealWorld {
+ public:
+  static void Pass(std::chrono::milliseconds time) { ::Pass(time); }
+  static bool Until(const std::function<bool()>& condition) { return ::Until(condition); }
+  static std::string Clip(const std::string& name, double seconds) { return test_media::Clip(name, Qt::red, seconds); }
+  static std::string Absent() { return test_media::PathOf("absent.mp4"); }
+
+ private:
+  QtScheduler scheduler_;
+  MpvEngine media_{MpvEngine::Decoding::kSoftware};
+
+ public:
+  Scheduler& scheduler = scheduler_;
+  MediaEngine& media = media_;
+};
+
+using Worlds = testing::Types<VirtualWorld, RealWorld>;
