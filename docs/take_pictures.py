@@ -1,0 +1,54 @@
+#!/usr/bin/python3
+"""Takes the pictures of the operator guide anew, from the demo station on a virtual display."""
+
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(ROOT / "tests" / "endtoend"))
+from harness.desk import Desk  # noqa: E402
+from harness.patience import until  # noqa: E402
+from harness.reader import Reader  # noqa: E402
+from harness.station import PROGRAM  # noqa: E402
+
+PICTURES = ROOT / "docs" / "pictures"
+# The picture on the air is laid out for its window two seconds after that has come up.
+LAID_OUT = 3
+
+
+def take(screen, window, name):
+    """The window with its frame, as it is seen."""
+    command = ["import", "-display", screen.name, "-frame", "-window", str(window.number), "-depth", "8", "-strip"]
+    subprocess.run([*command, str(PICTURES / f"{name}.png")], check=True)
+
+
+def main():
+    folder = pathlib.Path(tempfile.gettempdir()) / "station"
+    try:
+        subprocess.run([sys.executable, ROOT / "demo" / "stage.py", PROGRAM, folder], check=True)
+        with Desk(2560, 1440) as desk:
+            desk.start(folder / "corvanta")
+            screen = desk.screen
+            reader = Reader(screen)
+            control = until("the control window", lambda: screen.window(form="frmMid"))
+            time.sleep(LAID_OUT)
+            take(screen, control, "control-window")
+            take(screen, screen.window(form="frmPlayer"), "on-the-air")
+            reader.press("Broadcast", "menu item")
+            reader.press("Playlist manager", "menu item")
+            manager = until("the playlist manager", lambda: screen.window(form="frmPlaylist"))
+            reader.press("Demo.plt", "list item")
+            reader.press("welcome.mp4", "list item")
+            until("the duration", lambda: reader.text_of("Duration:") == "0:0:20")
+            time.sleep(1)
+            take(screen, manager, "playlist-manager")
+    finally:
+        shutil.rmtree(folder, ignore_errors=True)
+
+
+if __name__ == "__main__":
+    main()
