@@ -16,8 +16,7 @@ FormExtender::FormExtender(Form& form, std::string name)
                           RecordWindowPosTo.Store(path);
                           file_.SetPath(path);
                           Restore();
-                          holding_ = true;
-                          Note();
+                          Hold();
                         }),
       OnTop(form.OnTop),
       file_(form.Outside().files) {
@@ -34,6 +33,11 @@ void FormExtender::Retire() {
 }
 
 void FormExtender::Release() { holding_ = false; }
+
+void FormExtender::Hold() {
+  holding_ = true;
+  Note();
+}
 
 void FormExtender::Restore() {
   if (!seen_) seen_ = written_ = Stored();

@@ -22,6 +22,8 @@ class FormExtender : public Component {
   Settable<std::string> RecordWindowPosTo;
   // Takes the window from the store until RecordWindowPosTo is set again; no place in between is remembered.
   void Release();
+  // Gives the window to the store as it stands: nothing is restored.
+  void Hold();
 
   Property<bool>& OnTop;
 

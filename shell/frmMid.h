@@ -6,6 +6,8 @@
 #include "platform/toolkit/Widgets.h"
 #include "settings/Station.h"
 
+class frmPlayer;
+
 // The operator's control window, and the restore of the whole station at start-up. It refuses to close: it hides, and
 // the broadcast goes on.
 class frmMid : public Form {
@@ -18,12 +20,15 @@ class frmMid : public Form {
   TrayIcon Tray{*this, "Tray"};
   MenuItem mnuPlayer{*this, "mnuPlayer"};
   MenuItem mnuPlayList{*this, "mnuPlayList"};
+  MenuItem mnuOutput{*this, "mnuOutput"};
+  MenuItem mnuMasking{*this, "mnuMasking"};
 
   // What stands on air and on the menu, by the Show keys.
   bool OnMonitor2 = false;
   bool OutputShown = false;
   bool CrawlerShown = false;
   bool LeftSideAdShown = false;
+  bool MaskingOn = false;  // not kept: always off after a start
 
   // Puts every feature back as Settings.ini says it stood when the station last ran. Asks nothing; a feature that
   // fails does not stop the walk.
@@ -43,6 +48,9 @@ class frmMid : public Form {
   void RestoreLeftSideAd();
   void RestorePlaylist();
   void RestoreDesktop();
+  void mnuMasking_Click();
+  void MaskOutput(frmPlayer& output);
+  void UnmaskOutput(frmPlayer& output);
   void RegisterRunAtStart();
   void OnHotKey(int id);
 

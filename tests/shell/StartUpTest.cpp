@@ -183,3 +183,56 @@ TEST_F(StartUpTest, ASettingsFileThatCannotBeReadIsAFirstRun) {
   EXPECT_FALSE(Output().Visible);
   EXPECT_TRUE(station.forms.Loaded<frmMid>());
 }
+
+class MaskingTest : public StationTest {
+ protected:
+  // The output window with a strip of 1950 twips, at a place of its own.
+  frmPlayer& OutputWithStrip() {
+    sim.pictures.sizes = {{"/ads/scorl.jpg", {400, 90}}};
+    station.Shared<CurrentAd>().CrawlerHeaderHeight = "600";
+    Output().Height = 9000;
+    Output().Left = 700;
+    Output().ViewAd("", "/ads/scorl.jpg", "", "");
+    return Output();
+  }
+};
+
+TEST_F(MaskingTest, TheWindowIsCutDownToTheStripAtTheBottomOfTheScreenAndItsLeftEdgeStays) {
+  ControlWindow();
+  frmPlayer& output = OutputWithStrip();
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_EQ(output.Height, 1950);
+  EXPECT_EQ(output.PicAd.Top, 0);
+  EXPECT_EQ(output.Top, 1080 * 15 - 1950);
+  EXPECT_EQ(output.Left, 700);
+  EXPECT_TRUE(output.OnTop);
+  EXPECT_TRUE(ControlWindow().MaskingOn);
+  EXPECT_TRUE(ControlWindow().mnuMasking.Checked);
+}
+
+TEST_F(MaskingTest, UnmaskingAlwaysGivesTheDesignHeightWhateverItWasBefore) {
+  ControlWindow();
+  frmPlayer& output = OutputWithStrip();
+  ControlWindow().mnuMasking.Choose();
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_EQ(output.Height, 11520);
+  EXPECT_EQ(output.Top, (1080 * 15 - 11520) / 2);
+  EXPECT_EQ(output.Left, (1920 * 15 - 15450) / 2);
+  EXPECT_FALSE(output.OnTop);
+  EXPECT_FALSE(ControlWindow().MaskingOn);
+  EXPECT_EQ(output.PicAd.Top, 0);  // until the next ad
+  output.SetHeight();
+  EXPECT_EQ(output.PicAd.Top, 11520 - 1950);
+}
+
+TEST_F(MaskingTest, APowerCutWhileMaskedBringsTheWholeWindowBack) {
+  ControlWindow();
+  frmPlayer& output = OutputWithStrip();
+  Advance(3s);
+  ControlWindow().mnuMasking.Choose();
+  Advance(3s);
+  IniFile store(sim.files);
+  store.SetPath("/station/Window.ini");
+  EXPECT_EQ(store.ReadValue("frmPlayer", "Height", ""), "9000");
+  EXPECT_EQ(output.Height, 1950);
+}
