@@ -1,5 +1,6 @@
 #include "platform/qt/media/MpvPlayer.h"
 
+#include <QUrl>
 #include <filesystem>
 #include <string_view>
 
@@ -15,8 +16,14 @@ bool HasScheme(const std::string& url) {
 
 // Opening a pipe or a device would wait for somebody to write to it, perhaps for ever.
 bool MayBeOpened(const std::string& url) {
+  std::string path = url;
+  if (url.starts_with("file://")) {
+    path = QUrl(QString::fromStdString(url)).toLocalFile().toStdString();
+  } else if (HasScheme(url)) {
+    return true;
+  }
   std::error_code failed;
-  return HasScheme(url) || std::filesystem::is_regular_file(std::filesystem::path(url), failed);
+  return std::filesystem::is_regular_file(path, failed);
 }
 
 // mpv reads some names as addresses of its own; a name that begins with the root never is one.

@@ -108,8 +108,10 @@ TEST_F(MpvPlayerTest, APipeIsRefusedAtOnce) {
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   player->Open(test_media::Clip("before.mp4", Qt::red, 5));
   ASSERT_TRUE(Reaches(PlayState::kPlaying));
-  player->Open(pipe);
-  EXPECT_EQ(player->State(), PlayState::kReady);
+  for (const std::string& name : {pipe, "file://" + pipe}) {
+    player->Open(name);
+    EXPECT_EQ(player->State(), PlayState::kReady);
+  }
   Pass(200ms);
   EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
 }
