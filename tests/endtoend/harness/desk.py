@@ -50,7 +50,7 @@ class Desk:
         run.mkdir(mode=0o700)
         self.environment = {
             "PATH": os.environ["PATH"],
-            "LANG": os.environ.get("LANG", "C.UTF-8"),
+            "LANG": "C.UTF-8",
             "HOME": str(home),
             "XDG_CONFIG_HOME": str(home / ".config"),
             "XDG_RUNTIME_DIR": str(run),
