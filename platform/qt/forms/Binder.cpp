@@ -3,9 +3,9 @@
 #include <QAbstractScrollArea>
 #include <QAction>
 #include <QMenu>
-#include <algorithm>
 #include <set>
 
+#include "platform/qt/OfKind.h"
 #include "platform/qt/Pressed.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/toolkit/Form.h"
@@ -55,8 +55,8 @@ void Binder::BindAll(const std::vector<Control*>& controls) {
 }
 
 void Binder::BindOne(Control& control) {
-  const auto binding = std::ranges::find(Bindings(), control.Kind(), &Binding::kind);
-  if (binding == Bindings().end()) {
+  const Binding* binding = OfKind(Bindings(), control);
+  if (binding == nullptr) {
     faults_.push_back(control.Name() + ": no widget shows a " + std::string(control.Kind()));
     return;
   }

@@ -8,28 +8,18 @@
 #include <QScreen>
 #include <chrono>
 
+#include "platform/qt/OfKind.h"
 #include "platform/qt/Pressed.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/WindowClass.h"
-#include "platform/qt/scene/FlashItem.h"
-#include "platform/qt/scene/MediaItem.h"
 #include "platform/qt/scene/PaneItem.h"
-#include "platform/qt/scene/TextItem.h"
+#include "platform/qt/scene/SceneItems.h"
 #include "platform/toolkit/Form.h"
-#include "platform/toolkit/PlayerControl.h"
 
 namespace {
 
 // The window system answers a wish for a place with steps in between; where it stands after this is where it stays.
 constexpr std::chrono::milliseconds kToSettle{300};
-
-ControlItem* NewItem(Control& control, QQuickItem& parent, Scene& scene) {
-  if (auto* pane = dynamic_cast<PictureBox*>(&control)) return new PaneItem(*pane, parent, scene);
-  if (auto* text = dynamic_cast<PaneText*>(&control)) return new TextItem(*text, parent);
-  if (auto* box = dynamic_cast<FlashBox*>(&control)) return new FlashItem(*box, parent, scene);
-  if (auto* player = dynamic_cast<PlayerControl*>(&control)) return new MediaItem(*player, parent, scene);
-  return nullptr;
-}
 
 // What is behind all panes: the form itself.
 class FormItem : public QQuickItem {
@@ -116,8 +106,12 @@ void OnAirWindow::Mirror(const std::vector<Control*>& controls, QQuickItem& pare
   // Above zero throughout: an item below zero would stand behind its own pane's colour.
   auto z = static_cast<qreal>(controls.size());
   for (Control* control : controls) {
-    ControlItem* item = NewItem(*control, parent, scene_);
-    if (item == nullptr) continue;
+    const SceneItem* shown = OfKind(SceneItems(), *control);
+    if (shown == nullptr) {
+      qWarning("%s: nothing on the air shows a %s", control->Name().c_str(), std::string(control->Kind()).c_str());
+      continue;
+    }
+    ControlItem* item = shown->make(*control, parent, scene_);
     item->setZ(z--);
     items_.push_back(item);
     if (control->Container() == nullptr) panes_.push_back(item);

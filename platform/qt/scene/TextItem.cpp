@@ -22,7 +22,7 @@ QImage Painted(const QString& text, const QColor& colour, QSize pixels) {
 
 }  // namespace
 
-TextItem::TextItem(PaneText& text, QQuickItem& parent)
+TextItem::TextItem(PaneText& text, QQuickItem& parent, Scene&)
     : ControlItem(text, parent), text_(QString::fromStdString(text.Text)), colour_(ToColour(text.ForeColor)) {
   Follow(text.Text, [this, &text] {
     text_ = QString::fromStdString(text.Text);

@@ -6,7 +6,7 @@
 // A line of text, as high as its rectangle allows, from its left edge.
 class TextItem : public ControlItem {
  public:
-  TextItem(PaneText& text, QQuickItem& parent);
+  TextItem(PaneText& text, QQuickItem& parent, Scene& scene);
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -96,6 +97,37 @@ TEST_F(OnAirWindowTest, TheWindowStandsWhereTheFormStands) {
   EXPECT_TRUE(Until([&] { return window->geometry() == QRect(30, 20, 100, 48); }));
   form.Hide();
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OnAirWindowTest, EveryControlHasItsItemInTheScene) {
+  for (const char* name : {"Front", "Inside", "Movie", "Text", "Back", "Media", "Player"}) {
+    EXPECT_NE(window->contentItem()->findChild<QQuickItem*>(name), nullptr) << name;
+  }
+}
+
+// A kind of control that no line of the table names.
+class Stranger : public Control {
+ public:
+  using Control::Control;
+  std::string_view Kind() const override { return "Stranger"; }
+};
+
+class frmStrange : public Form {
+ public:
+  explicit frmStrange(Station& station) : Form(station.forms, "frmStrange", Kind::kOnAir) {}
+  Stranger Unknown{*this, "Unknown"};
+  PictureBox Known{*this, "Known"};
+};
+
+TEST_F(OnAirWindowTest, AControlThatNothingShowsIsSaidAndTheOthersAreShown) {
+  static QString said;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { said = text; });
+  station.forms.Get<frmStrange>();
+  qInstallMessageHandler(before);
+  EXPECT_EQ(said, "Unknown: nothing on the air shows a Stranger");
+  EXPECT_EQ(window->contentItem()->findChild<QQuickItem*>("Unknown"), nullptr);
+  EXPECT_NE(window->contentItem()->findChild<QQuickItem*>("Known"), nullptr);
 }
 
 TEST_F(OnAirWindowTest, TheWindowNeverMovesThroughThePlacesOfOneHandler) {
