@@ -127,7 +127,7 @@ std::string Golden(const std::filesystem::path& path) {
 void ExpectWeek(const std::string& name, std::string (*run)()) {
   const std::string actual = run();
   EXPECT_EQ(actual, run());
-  const auto path = std::filesystem::path(__FILE__).parent_path() / (name + ".txt");
+  const auto path = std::filesystem::path(WEEKS) / (name + ".txt");
   if (actual == Golden(path)) return;
   const auto beside = std::filesystem::path(path).replace_extension(".actual.txt");
   std::ofstream(beside, std::ios::binary) << actual;
