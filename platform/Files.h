@@ -30,13 +30,18 @@ struct FileReading {
   std::unique_ptr<FileWatch> watch;  // null when nothing can be said: read again each time
 };
 
-// The disk. Paths are UTF-8 with the separator "/"; a part of a path whose exact name is missing is looked up without
-// regard to case. No call throws; a failure is the return value.
+// The disk. Paths are UTF-8; every call takes them as Resolve does. No call throws; a failure is the return value.
 class Files {
  public:
   static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 
   virtual ~Files() = default;
+
+  // The path under which something really stands, parted by "/": the path as given where that names something; else a
+  // backslash parts it too, and each part whose exact name is missing takes the name that is equal without regard to
+  // case, the first in the order of lists. From the first part on that has none, the rest stays as given. Whoever opens
+  // a file past this interface opens this path.
+  virtual std::string Resolve(const std::string& path) const = 0;
 
   virtual FileKind Kind(const std::string& path) const = 0;
 

@@ -1,5 +1,11 @@
 #include "platform/Media.h"
 
+bool IsAddress(std::string_view url) {
+  const std::size_t end = url.find("://");
+  if (end == std::string_view::npos || end == 0) return false;
+  return url.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+.-") == end;
+}
+
 std::string MediaPlayer::Status() const {
   switch (State()) {
     case PlayState::kStopped:

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 // States of a player, by the numbers that the station's rules know them by.
 enum class PlayState {
@@ -24,6 +25,9 @@ class MediaListener {
   virtual void MediaChanged() = 0;
 };
 
+// True of an address with a scheme, such as "http://host/live"; anything else is a path.
+bool IsAddress(std::string_view url);
+
 // One player with its picture surface; one instance lasts as long as the surface. It plays video, audio and pictures
 // alike: a picture stands for 5 seconds and then ends. What cannot be played (absent, no media, not a regular file)
 // raises nothing at all: the state just never becomes kMediaEnded.
@@ -31,8 +35,8 @@ class MediaPlayer {
  public:
   virtual ~MediaPlayer() = default;
 
-  // Opens a file or a stream and starts it at once, in place of what played before; that is no end of the former item.
-  // The empty text closes what is open.
+  // Opens a file, under its very name on the disk (Files::Resolve), or a stream, and starts it at once, in place of
+  // what played before; that is no end of the former item. The empty text closes what is open.
   virtual void Open(const std::string& url) = 0;
   virtual void Play() = 0;
   virtual void Pause() = 0;

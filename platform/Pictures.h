@@ -10,6 +10,7 @@ class Pictures {
  public:
   virtual ~Pictures() = default;
 
-  // Width and height in pixels, from the file's header; nothing when the file is absent or no picture.
+  // Width and height in pixels, from the file's header; nothing when no file of that very name is there
+  // (Files::Resolve), or it is no picture.
   virtual std::optional<PixelSize> Size(const std::string& path) const = 0;
 };

@@ -4,10 +4,11 @@
 #include <cmath>
 
 #include "platform/toolkit/Wildcards.h"
-#include "settings/DataFolder.h"
 #include "settings/IniText.h"
 
 namespace {
+
+constexpr char kSeparators[] = "\\/";
 
 // Spreads the bits of a moment over the whole word, so that moments a second apart give unlike numbers.
 std::uint64_t Scatter(std::uint64_t value) {
@@ -24,8 +25,12 @@ std::uint64_t Seed(const Clock& clock) {
   return Scatter(Scatter(static_cast<std::uint64_t>(inDay)) ^ steady);
 }
 
+bool EndsWithSeparator(std::string_view path) {
+  return !path.empty() && path.find_last_of(kSeparators) == path.size() - 1;
+}
+
 bool AnyNameMatches(const Files& files, const std::string& path) {
-  const std::size_t slash = path.rfind('/');
+  const std::size_t slash = path.find_last_of(kSeparators);
   const std::string folder = slash == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(slash, 1));
   const std::string pattern = FileNameOfPath(path);
   for (const FileKind kind : {FileKind::kRegular, FileKind::kFolder}) {
@@ -39,25 +44,24 @@ bool AnyNameMatches(const Files& files, const std::string& path) {
 
 }  // namespace
 
-void CreateEmptyFile(Files& files, std::string_view path) { files.Replace(WithPlatformSeparators(path), ""); }
+void CreateEmptyFile(Files& files, std::string_view path) { files.Replace(std::string(path), ""); }
 
 bool DeleteFolderTree(Files& files, std::string_view path) {
-  std::string folder = WithPlatformSeparators(path);
-  if (folder.ends_with('/')) folder.pop_back();
+  if (EndsWithSeparator(path)) path.remove_suffix(1);
+  const std::string folder(path);
   return files.Kind(folder) == FileKind::kFolder && files.RemoveTree(folder);
 }
 
 bool FileExists(const Files& files, std::string_view path) {
-  if (path.empty()) return false;
-  // A name on this disk may hold a backslash of its own.
-  if (files.Kind(std::string(path)) != FileKind::kAbsent) return true;
-  const std::string mapped = WithPlatformSeparators(path);
-  if (files.Kind(mapped) != FileKind::kAbsent) return true;
-  return FileNameOfPath(mapped).find_first_of("*?") != std::string::npos && AnyNameMatches(files, mapped);
+  // Behind a separator at the end stands no name.
+  if (path.empty() || EndsWithSeparator(path)) return false;
+  const std::string whole(path);
+  if (files.Kind(whole) != FileKind::kAbsent) return true;
+  return FileNameOfPath(whole).find_first_of("*?") != std::string::npos && AnyNameMatches(files, whole);
 }
 
 std::string FileNameOfPath(std::string_view path) {
-  const std::size_t separator = path.find_last_of("\\/");
+  const std::size_t separator = path.find_last_of(kSeparators);
   return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
 }
 

@@ -15,7 +15,8 @@ void CreateEmptyFile(Files& files, std::string_view path);
 // Removes a folder with all in it; a separator at the end of the path is dropped. True when there was such a folder and
 // it is gone.
 bool DeleteFolderTree(Files& files, std::string_view path);
-// True for a file, a folder, and a path whose last part holds "*" or "?" and matches a name; false for the empty path.
+// True for a file, a folder, and a path whose last part holds "*" or "?" and matches a name; false for the empty path
+// and for one with a separator at its end.
 bool FileExists(const Files& files, std::string_view path);
 
 // What stands behind the last separator; without one, the whole text.

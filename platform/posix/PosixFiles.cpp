@@ -79,6 +79,8 @@ void PosixFiles::Recover(const std::string& folder) const {
   if (recovered_.insert(folder).second) RecoverFolder(folder);
 }
 
+std::string PosixFiles::Resolve(const std::string& path) const { return ResolvePath(path); }
+
 FileKind PosixFiles::Kind(const std::string& path) const {
   struct stat status;
   const bool exists = stat(path.c_str(), &status) == 0 || stat(ResolvePath(path).c_str(), &status) == 0;

@@ -12,6 +12,7 @@ class PosixFiles : public Files {
   PosixFiles();
   ~PosixFiles() override;
 
+  std::string Resolve(const std::string& path) const override;
   FileKind Kind(const std::string& path) const override;
   FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const override;
   bool Replace(const std::string& path, const std::string& content) override;

@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "platform/CaseFold.h"
@@ -26,10 +27,8 @@ std::string FindEntry(const std::string& folder, const std::string& name) {
   return found;
 }
 
-}  // namespace
-
-std::string ResolvePath(const std::string& path) {
-  if (path.empty() || Exists(path)) return path;
+// Finds each part in its turn; only "/" parts the path.
+std::string ResolveParts(const std::string& path) {
   std::string resolved = path.starts_with('/') ? "/" : "";
   for (std::size_t at = resolved.size(); at < path.size();) {
     const std::size_t end = std::min(path.find('/', at), path.size());
@@ -43,6 +42,18 @@ std::string ResolvePath(const std::string& path) {
     at = end + 1;
   }
   return resolved;
+}
+
+}  // namespace
+
+std::string ResolvePath(const std::string& path) {
+  if (path.empty() || Exists(path)) return path;
+  std::string resolved = ResolveParts(path);
+  // A name on this disk may hold a backslash of its own.
+  if (path.find('\\') == std::string::npos || Exists(resolved)) return resolved;
+  std::string mapped = path;
+  std::ranges::replace(mapped, '\\', '/');
+  return ResolveParts(mapped);
 }
 
 std::string FolderOfPath(const std::string& path) {

@@ -15,13 +15,15 @@ struct SimFiles::Entry {
   ~Entry() { ++*version; }
 
   // The child of that exact name, or else the first without regard to case.
-  Entry* Child(std::string_view name) const {
+  auto Find(std::string_view name) const {
     const auto exact = children.find(name);
-    if (exact != children.end()) return exact->second.get();
-    for (const auto& [other, entry] : children) {
-      if (EqualIgnoringCase(other, name)) return entry.get();
-    }
-    return nullptr;
+    if (exact != children.end()) return exact;
+    return std::ranges::find_if(children, [name](const auto& child) { return EqualIgnoringCase(child.first, name); });
+  }
+
+  Entry* Child(std::string_view name) const {
+    const auto found = Find(name);
+    return found == children.end() ? nullptr : found->second.get();
   }
 
   Entry& NewChild(std::string_view name) {
@@ -58,25 +60,62 @@ SimFiles::SimFiles() : root_(std::make_unique<Entry>()) { root_->isFolder = true
 
 SimFiles::~SimFiles() = default;
 
-SimFiles::Entry* SimFiles::Find(std::string_view path) const {
+// A separator at the end asks for a folder.
+SimFiles::Entry* SimFiles::FindExact(std::string_view path) const {
   if (path.empty()) return nullptr;
+  const bool asksForFolder = path.ends_with('/');
   Entry* entry = root_.get();
   for (std::string_view part = TakePart(path); entry != nullptr && !part.empty(); part = TakePart(path)) {
-    entry = entry->isFolder ? entry->Child(part) : nullptr;
+    const auto child = entry->children.find(part);
+    entry = child == entry->children.end() ? nullptr : child->second.get();
   }
-  return entry;
+  return entry != nullptr && asksForFolder && !entry->isFolder ? nullptr : entry;
 }
 
-SimFiles::Entry* SimFiles::FindFolderOf(std::string_view path, std::string_view& name) const {
+SimFiles::Entry* SimFiles::Find(const std::string& path) const {
+  Entry* exact = FindExact(path);
+  return exact != nullptr ? exact : FindExact(Resolve(path));
+}
+
+std::string SimFiles::ResolveParts(std::string_view path) const {
+  std::string resolved;
+  const Entry* entry = root_.get();
+  while (!path.empty()) {
+    if (path.starts_with('/')) {
+      resolved += '/';
+      path.remove_prefix(1);
+      continue;
+    }
+    const std::string_view part = path.substr(0, path.find('/'));
+    const auto child = entry->Find(part);
+    if (child == entry->children.end()) break;
+    resolved += child->first;
+    entry = child->second.get();
+    path.remove_prefix(part.size());
+  }
+  return resolved.append(path);
+}
+
+std::string SimFiles::Resolve(const std::string& path) const {
+  if (FindExact(path) != nullptr) return path;
+  const std::string resolved = ResolveParts(path);
+  // A name on this disk may hold a backslash of its own.
+  if (path.find('\\') == std::string::npos || FindExact(resolved) != nullptr) return resolved;
+  std::string mapped = path;
+  std::ranges::replace(mapped, '\\', '/');
+  return ResolveParts(mapped);
+}
+
+SimFiles::Entry* SimFiles::FindFolderOf(const std::string& path, std::string_view& name) const {
   const std::size_t slash = path.rfind('/');
-  name = slash == std::string_view::npos ? path : path.substr(slash + 1);
-  Entry* folder = slash == std::string_view::npos || slash == 0 ? root_.get() : Find(path.substr(0, slash));
+  name = slash == std::string::npos ? path : std::string_view(path).substr(slash + 1);
+  Entry* folder = slash == std::string::npos || slash == 0 ? root_.get() : Find(path.substr(0, slash));
   return folder != nullptr && folder->isFolder && !name.empty() ? folder : nullptr;
 }
 
 FileFault SimFiles::FaultOf(const std::string& path) const {
   if (faults_.empty()) return FileFault::kNone;
-  const auto fault = faults_.find(FoldCase(path));
+  const auto fault = faults_.find(FoldCase(Resolve(path)));
   return fault == faults_.end() ? FileFault::kNone : fault->second;
 }
 
@@ -103,8 +142,9 @@ bool SimFiles::Replace(const std::string& path, const std::string& content) {
 }
 
 bool SimFiles::Write(const std::string& path, const std::string& content) {
+  const std::string resolved = Resolve(path);
   std::string_view name;
-  Entry* folder = FindFolderOf(path, name);
+  Entry* folder = FindFolderOf(resolved, name);
   if (folder == nullptr) return false;
   Entry* entry = folder->Child(name);
   return Fill(entry == nullptr ? folder->NewChild(name) : *entry, content);
@@ -120,29 +160,29 @@ bool SimFiles::Fill(Entry& entry, const std::string& content) {
 bool SimFiles::Remove(const std::string& path) {
   if (Kind(path) == FileKind::kAbsent) return true;
   if (Kind(path) == FileKind::kFolder || FaultOf(path) == FileFault::kWriteRefused) return false;
-  std::string_view name;
-  Entry* folder = FindFolderOf(path, name);
-  const Entry* entry = folder->Child(name);
-  std::erase_if(folder->children, [entry](const auto& child) { return child.second.get() == entry; });
-  return true;
+  return Erase(Resolve(path));
 }
 
 bool SimFiles::RemoveTree(const std::string& path) {
   if (Kind(path) == FileKind::kAbsent) return true;
   if (Kind(path) != FileKind::kFolder || FaultOf(path) == FileFault::kWriteRefused) return false;
-  std::string trimmed = path;
-  while (trimmed.ends_with('/')) trimmed.pop_back();
+  std::string resolved = Resolve(path);
+  while (resolved.ends_with('/')) resolved.pop_back();
+  return Erase(resolved);
+}
+
+bool SimFiles::Erase(const std::string& path) {
   std::string_view name;
-  Entry* folder = FindFolderOf(trimmed, name);
+  Entry* folder = FindFolderOf(path, name);
   if (folder == nullptr) return false;
-  const Entry* entry = folder->Child(name);
-  std::erase_if(folder->children, [entry](const auto& child) { return child.second.get() == entry; });
+  folder->children.erase(folder->Find(name));
   return true;
 }
 
 bool SimFiles::CreateFolder(const std::string& path) {
   Entry* folder = root_.get();
-  std::string_view rest = path;
+  const std::string resolved = Resolve(path);
+  std::string_view rest = resolved;
   for (std::string_view part = TakePart(rest); !part.empty(); part = TakePart(rest)) {
     Entry* child = folder->Child(part);
     if (child == nullptr) {
@@ -180,8 +220,9 @@ void SimFiles::Put(const std::string& path, const std::string& content) {
 }
 
 void SimFiles::SetFault(const std::string& path, FileFault fault) {
-  faults_[FoldCase(path)] = fault;
-  if (fault == FileFault::kNone) faults_.erase(FoldCase(path));
+  const std::string key = FoldCase(Resolve(path));
+  faults_[key] = fault;
+  if (fault == FileFault::kNone) faults_.erase(key);
   const Entry* entry = Find(path);
   if (entry != nullptr) ++*entry->version;
 }

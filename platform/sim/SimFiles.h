@@ -22,6 +22,7 @@ class SimFiles : public Files {
   SimFiles();
   ~SimFiles() override;
 
+  std::string Resolve(const std::string& path) const override;
   FileKind Kind(const std::string& path) const override;
   FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const override;
   bool Replace(const std::string& path, const std::string& content) override;
@@ -40,8 +41,12 @@ class SimFiles : public Files {
  private:
   struct Entry;
 
-  Entry* Find(std::string_view path) const;
-  Entry* FindFolderOf(std::string_view path, std::string_view& name) const;
+  Entry* FindExact(std::string_view path) const;
+  Entry* Find(const std::string& path) const;
+  std::string ResolveParts(std::string_view path) const;
+  // The folder of a resolved path, and the name in it.
+  Entry* FindFolderOf(const std::string& path, std::string_view& name) const;
+  bool Erase(const std::string& path);
   FileFault FaultOf(const std::string& path) const;
   bool Write(const std::string& path, const std::string& content);
   static bool Fill(Entry& entry, const std::string& content);

@@ -30,8 +30,8 @@ SimPlayer::~SimPlayer() {
 }
 
 bool SimPlayer::CanLoad() const {
-  return !media_.broken_.contains(url_) &&
-         (url_.find("://") != std::string::npos || media_.files_.Kind(url_) == FileKind::kRegular);
+  if (media_.broken_.contains(url_)) return false;
+  return IsAddress(url_) || (media_.files_.Resolve(url_) == url_ && media_.files_.Kind(url_) == FileKind::kRegular);
 }
 
 void SimPlayer::Open(const std::string& url) {

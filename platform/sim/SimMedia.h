@@ -12,8 +12,8 @@
 
 class SimPlayer;
 
-// Players that "play" by the virtual clock. A file that the virtual disk has opens after a moment, plays for its
-// duration and ends; so does an address with a scheme.
+// Players that "play" by the virtual clock. A file that the virtual disk has under that very name opens after a
+// moment, plays for its duration and ends; so does an address with a scheme.
 class SimMedia : public MediaEngine {
  public:
   SimMedia(SimTime& time, Files& files, SimTrace& trace) : time_(time), files_(files), trace_(trace) {}

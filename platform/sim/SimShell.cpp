@@ -64,5 +64,6 @@ void SimDesktop::PressCtrl(char letter) {
 
 std::optional<PixelSize> SimPictures::Size(const std::string& path) const {
   const auto found = sizes.find(path);
-  return found == sizes.end() ? std::nullopt : std::optional(found->second);
+  const bool stands = files_.Resolve(path) == path && files_.Kind(path) == FileKind::kRegular;
+  return found == sizes.end() || !stands ? std::nullopt : std::optional(found->second);
 }

@@ -7,6 +7,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
+#include "platform/Files.h"
 #include "platform/Pictures.h"
 #include "platform/sim/SimTrace.h"
 
@@ -54,8 +55,13 @@ class SimDesktop : public Desktop {
 
 class SimPictures : public Pictures {
  public:
+  explicit SimPictures(const Files& files) : files_(files) {}
+
   std::optional<PixelSize> Size(const std::string& path) const override;
 
-  // The pictures there are; every other file is none.
+  // The pictures among the files of the virtual disk; every other file is none.
   std::map<std::string, PixelSize> sizes;
+
+ private:
+  const Files& files_;
 };

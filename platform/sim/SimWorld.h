@@ -15,7 +15,7 @@ struct SimWorld {
   SimTime time;
   SimFiles files;
   SimMedia media{time, files, trace};
-  SimPictures pictures;
+  SimPictures pictures{files};
   SimWindows windows{trace};
   SimDialogs dialogs{trace};
   SimDesktop desktop{trace};

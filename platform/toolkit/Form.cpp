@@ -1,5 +1,6 @@
 #include "platform/toolkit/Form.h"
 
+#include "platform/Files.h"
 #include "platform/Windows.h"
 
 namespace {
@@ -44,7 +45,7 @@ std::string Form::InputBox(const std::string& prompt, const std::string& title) 
 
 std::string Form::BrowseFolder(const std::string& title, const std::string& start) {
   const Counted standing(handlersRunning_);
-  return Outside().dialogs.BrowseFolder(title, start);
+  return Outside().dialogs.BrowseFolder(title, Outside().files.Resolve(start));
 }
 
 void Form::Handle(const std::function<void()>& handler) {

@@ -12,8 +12,9 @@ PictureBox::PictureBox(Control& container, std::string name, Sizing sizing)
 
 void PictureBox::LoadPicture(const std::string& path) {
   PixelSize size;
+  const std::string file = Owner().Outside().files.Resolve(path);
   if (!path.empty()) {
-    const auto known = Owner().Outside().pictures.Size(path);
+    const auto known = Owner().Outside().pictures.Size(file);
     if (!known) throw Failure("Invalid picture: " + path);
     size = *known;
   }
@@ -21,18 +22,19 @@ void PictureBox::LoadPicture(const std::string& path) {
     Width = size.width * kTwipsPerPixel;
     Height = size.height * kTwipsPerPixel;
   }
-  Picture = LoadedPicture{path, Picture.Get().load + 1};
+  Picture = LoadedPicture{file, Picture.Get().load + 1};
 }
 
 namespace {
 
 auto MovieSetter(FlashBox& box) {
   return [&box](const std::string& path) {
-    if (!path.empty() && box.Owner().Outside().files.Kind(path) != FileKind::kRegular) {
+    const Files& files = box.Owner().Outside().files;
+    if (!path.empty() && files.Kind(path) != FileKind::kRegular) {
       throw Failure("Movie not found: " + path);
     }
     box.Movie.Store(path);
-    box.Loaded = LoadedPicture{path, box.Loaded.Get().load + 1};
+    box.Loaded = LoadedPicture{files.Resolve(path), box.Loaded.Get().load + 1};
   };
 }
 

@@ -7,7 +7,7 @@
 
 // A picture file that a pane shows. Two loads of one path are two pictures: the file may have been written anew.
 struct LoadedPicture {
-  std::string path;  // empty: no picture
+  std::string path;  // the file's very name on the disk; empty: no picture
   int load = 0;
 
   bool operator==(const LoadedPicture&) const = default;

@@ -1,5 +1,6 @@
 #include "platform/toolkit/PlayerControl.h"
 
+#include "platform/Files.h"
 #include "platform/toolkit/Failure.h"
 #include "platform/toolkit/Form.h"
 
@@ -8,7 +9,8 @@ namespace {
 auto UrlSetter(PlayerControl& control) {
   return [&control](const std::string& url) {
     control.URL.Store(url);
-    if (control.Platform() != nullptr) control.Platform()->Open(url);
+    if (control.Platform() == nullptr) return;
+    control.Platform()->Open(IsAddress(url) ? url : control.Owner().Outside().files.Resolve(url));
   };
 }
 

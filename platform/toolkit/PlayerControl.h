@@ -16,7 +16,7 @@ class PlayerControl : public Control, private MediaListener {
   std::string_view Kind() const override { return "PlayerControl"; }
   void Retire() override;
 
-  // Loads a path or a stream and starts it at once.
+  // Loads a path, in any spelling that the disk takes, or a stream, and starts it at once.
   Settable<std::string> URL;
   // 8 is the end of the media.
   int playState() const;

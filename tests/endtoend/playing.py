@@ -89,5 +89,14 @@ def stop_ends_the_item_and_start_goes_on_with_the_next(desk):
     station.await_colour("green")
 
 
+@scenario
+def rows_in_another_spelling_than_their_files_play(desk):
+    station = Station(desk)
+    folder = station.clip_folder(media.clip("red"), media.clip("green"), media.clip("blue"))
+    station.playlist(folder / "A.MP4", str(folder / "b.mp4").replace("/", "\\"), station.folder / "clips" / "C.Mp4")
+    station.start_on_air()
+    station.assert_plays("red", "red", "green", "blue")
+
+
 if __name__ == "__main__":
     main()

@@ -83,6 +83,45 @@ TYPED_TEST(FilesContractTest, TheExactNameComesBeforeOneThatDiffersInCase) {
   EXPECT_EQ(this->files.Read(this->At("A.ini")), "upper");
 }
 
+TYPED_TEST(FilesContractTest, APathResolvesToTheNameUnderWhichAFileStands) {
+  ASSERT_TRUE(this->files.CreateFolder(this->At("Media/Stiker")));
+  WriteExact(this->disk, "Media/Stiker/One.swf", "1");
+  const std::string exact = this->At("Media/Stiker/One.swf");
+  for (const char* spelling :
+       {"Media/Stiker/One.swf", "media/STIKER/one.SWF", "Media\\Stiker\\One.swf", "MEDIA\\stiker/ONE.swf"}) {
+    EXPECT_EQ(this->files.Resolve(this->At(spelling)), exact) << spelling;
+    EXPECT_EQ(this->files.Kind(this->At(spelling)), FileKind::kRegular) << spelling;
+    EXPECT_EQ(this->files.Read(this->At(spelling)), "1") << spelling;
+  }
+  EXPECT_EQ(this->files.Resolve(""), "");
+}
+
+TYPED_TEST(FilesContractTest, OfAPathThatLeadsNowhereWhatStandsIsResolvedAndTheRestStaysAsGiven) {
+  ASSERT_TRUE(this->files.CreateFolder(this->At("Media")));
+  EXPECT_EQ(this->files.Resolve(this->At("MEDIA/None/Here.swf")), this->At("Media/None/Here.swf"));
+  EXPECT_EQ(this->files.Resolve(this->At("none")), this->At("none"));
+  EXPECT_TRUE(this->files.Replace(this->At("media\\New.swf"), "x"));
+  EXPECT_EQ(this->files.List(this->At("Media"), FileKind::kRegular), std::vector<std::string>{"New.swf"});
+}
+
+TYPED_TEST(FilesContractTest, ANameMayHoldABackslashOfItsOwn) {
+  ASSERT_TRUE(this->files.CreateFolder(this->At("a")));
+  WriteExact(this->disk, "a\\b.ini", "one name");
+  EXPECT_EQ(this->files.Read(this->At("a\\b.ini")), "one name");
+  EXPECT_EQ(this->files.Resolve(this->At("A\\B.ini")), this->At("a\\b.ini"));
+  WriteExact(this->disk, "a/c.ini", "two parts");
+  EXPECT_EQ(this->files.Read(this->At("a\\c.ini")), "two parts");
+}
+
+TYPED_TEST(FilesContractTest, ASeparatorAtTheEndAsksForAFolder) {
+  ASSERT_TRUE(this->files.CreateFolder(this->At("folder")));
+  WriteExact(this->disk, "file", "x");
+  EXPECT_EQ(this->files.Kind(this->At("folder/")), FileKind::kFolder);
+  EXPECT_EQ(this->files.Kind(this->At("FOLDER\\")), FileKind::kFolder);
+  EXPECT_EQ(this->files.Kind(this->At("file/")), FileKind::kAbsent);
+  EXPECT_EQ(this->files.Kind(this->At("FILE\\")), FileKind::kAbsent);
+}
+
 TYPED_TEST(FilesContractTest, AFolderIsNoFileAndAFileIsNoFolder) {
   ASSERT_TRUE(this->files.CreateFolder(this->At("folder")));
   ASSERT_TRUE(this->files.Replace(this->At("file"), "x"));

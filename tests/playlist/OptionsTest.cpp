@@ -98,6 +98,15 @@ TEST_F(OptionsTest, BrowseAsksFromTheRememberedFolderAndKeepsTheAnswer) {
   EXPECT_EQ(Setting("Playlist", "FolderPath"), "/clips");
 }
 
+TEST_F(OptionsTest, BrowseBeginsInTheFolderWhateverItsSpelling) {
+  sim.files.CreateFolder("/films");
+  Set("Playlist", "FolderPath", "\\Films");
+  Playlists();
+  sim.trace.Take();
+  Playlists().btnBrows.Press();
+  EXPECT_EQ(sim.trace.Take(), Names{"browse \"Select A Video or Audio Directory\" from /films"});
+}
+
 TEST_F(OptionsTest, ACancelledBrowseChangesNothing) {
   Set("Playlist", "FolderPath", "/clips");
   Playlists().btnBrows.Press();

@@ -55,6 +55,16 @@ TEST_F(SequencerTest, TheCursorKeepsItsNumberWhenALongerListComesAndGoesOnThere)
   EXPECT_EQ(Aired(), Names{"f.mp4"});
 }
 
+TEST_F(SequencerTest, ARowInAnotherSpellingThanItsFileGoesOnTheAirAndTheNextFollows) {
+  Clip("red.mp4");
+  Clip("blue.mp4");
+  Playlist("Day.plt", {"/CLIPS/RED.MP4", "\\clips\\Blue.mp4"});
+  Set("Playlist", "OneAfterAnother", "1");
+  Call(1);
+  Advance(15s);
+  EXPECT_EQ(Aired(), (Names{"red.mp4", "blue.mp4"}));
+}
+
 TEST_F(SequencerTest, AMissingRowIsSkippedAndTheCursorStandsAtTheOneThatPlays) {
   Playlist("Day.plt", {Clip("a.mp4"), "/clips/gone.mp4", Clip("c.mp4")});
   Call(2);

@@ -79,6 +79,24 @@ TEST(HelpersTest, AFileExistsAlsoAsAFolderOrAsAWildcardThatMatches) {
   EXPECT_FALSE(FileExists(files, "/None/*"));
 }
 
+TEST(HelpersTest, AFolderExistsButNotWithASeparatorAtItsEnd) {
+  SimFiles files;
+  files.Put("/Ads/one/scorl.jpg", "x");
+  EXPECT_TRUE(FileExists(files, "/Ads/one"));
+  EXPECT_TRUE(FileExists(files, "\\ads\\ONE"));
+  EXPECT_FALSE(FileExists(files, "/Ads/one/"));
+  EXPECT_FALSE(FileExists(files, "/Ads/one\\"));
+  EXPECT_FALSE(FileExists(files, "/Ads/one/scorl.jpg\\"));
+  EXPECT_FALSE(FileExists(files, "/"));
+}
+
+TEST(HelpersTest, AWildcardMatchesBehindABackslashToo) {
+  SimFiles files;
+  files.Put("/Playlist/Morning.plt", "");
+  EXPECT_TRUE(FileExists(files, "\\playlist\\*.PLT"));
+  EXPECT_FALSE(FileExists(files, "\\playlist\\*.avi"));
+}
+
 TEST(HelpersTest, TheEmptyPathDoesNotExist) { EXPECT_FALSE(FileExists(SimFiles(), "")); }
 
 TEST(HelpersTest, APatternMatchesWholeNamesWithoutRegardToCase) {

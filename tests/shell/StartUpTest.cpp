@@ -188,6 +188,7 @@ class MaskingTest : public StationTest {
  protected:
   // The output window with a strip of 1950 twips, at a place of its own.
   frmPlayer& OutputWithStrip() {
+    sim.files.Put("/ads/scorl.jpg", "jpeg");
     sim.pictures.sizes = {{"/ads/scorl.jpg", {400, 90}}};
     station.Shared<CurrentAd>().CrawlerHeaderHeight = "600";
     Output().Height = 9000;

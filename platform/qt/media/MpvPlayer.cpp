@@ -8,18 +8,12 @@
 
 namespace {
 
-bool HasScheme(const std::string& url) {
-  const std::size_t end = url.find("://");
-  if (end == std::string::npos || end == 0) return false;
-  return url.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+.-") == end;
-}
-
 // Opening a pipe or a device would wait for somebody to write to it, perhaps for ever.
 bool MayBeOpened(const std::string& url) {
   std::string path = url;
   if (url.starts_with("file://")) {
     path = QUrl(QString::fromStdString(url)).toLocalFile().toStdString();
-  } else if (HasScheme(url)) {
+  } else if (IsAddress(url)) {
     return true;
   }
   std::error_code failed;
@@ -29,7 +23,7 @@ bool MayBeOpened(const std::string& url) {
 // mpv reads some names as addresses of its own; a name that begins with the root never is one.
 std::string ForMpv(const std::string& url) {
   std::error_code failed;
-  return HasScheme(url) ? url : std::filesystem::absolute(url, failed).string();
+  return IsAddress(url) ? url : std::filesystem::absolute(url, failed).string();
 }
 
 std::optional<std::int64_t> EntryOf(const mpv_node& result) {

@@ -6,7 +6,10 @@
 #include <functional>
 #include <string>
 
+#include "platform/posix/PosixFiles.h"
+#include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/sim/SimWorld.h"
 #include "tests/platform/qt/TestMedia.h"
@@ -25,11 +28,17 @@ class VirtualWorld {
     sim.media.SetDuration("/" + name, seconds);
     return "/" + name;
   }
+  std::string Picture(const std::string& name, PixelSize size) {
+    sim.files.Put("/" + name, "picture");
+    sim.pictures.sizes["/" + name] = size;
+    return "/" + name;
+  }
   static std::string Absent() { return "/absent.mp4"; }
 
   SimWorld sim;
   Scheduler& scheduler = sim.time;
   MediaEngine& media = sim.media;
+  World& world = sim.world;
 };
 
 class RealWorld {
@@ -37,15 +46,25 @@ class RealWorld {
   static void Pass(std::chrono::milliseconds time) { ::Pass(time); }
   static bool Until(const std::function<bool()>& condition) { return ::Until(condition); }
   static std::string Clip(const std::string& name, double seconds) { return test_media::Clip(name, Qt::red, seconds); }
+  static std::string Picture(const std::string& name, PixelSize size) {
+    return test_media::Picture(name, Qt::red, {size.width, size.height});
+  }
   static std::string Absent() { return test_media::PathOf("absent.mp4"); }
 
  private:
+  QtClock clock_;
   QtScheduler scheduler_;
+  PosixFiles files_;
   MpvEngine media_{MpvEngine::Decoding::kSoftware};
+  QtPictures pictures_;
+  SimWorld rest_;
 
  public:
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
+  // Time, disk, media and pictures are real.
+  World world{clock_,        scheduler_,    files_,        media_,        pictures_,
+              rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors};
 };
 
 using Worlds = testing::Types<VirtualWorld, RealWorld>;
