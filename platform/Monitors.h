@@ -16,10 +16,10 @@ struct PixelRect {
 
 // One display as the display layer tells it.
 struct MonitorInfo {
-  std::uint64_t handle = 0;  // never 0
+  std::uint64_t handle = 0;  // never 0; the same again when the display was unplugged and is back at its output
   std::string name;
   PixelRect area;
-  PixelRect workArea;  // without panels and docks
+  PixelRect workArea;  // without the panels and docks on this display
   bool primary = false;
 };
 

@@ -78,6 +78,39 @@ def without_the_key_a_window_on_monitor_two_comes_back_to_monitor_one(desk):
     until("the window in the middle of monitor 1", lambda: stands_at(station, ((960 - 480) // 2, (1080 - 270) // 2, 480, 270)))
 
 
+@scenario
+def a_panel_on_monitor_two_moves_the_middle_up(desk):
+    desk.two_monitors()
+    desk.screen.dock(960, 960, 40, 1080)
+    station = on_monitor(desk, 2)
+    until("the window in the middle of what is free", lambda: stands_at(station, (960 + 240, 385, 480, 270)))
+
+
+@scenario
+def a_panel_on_monitor_one_leaves_monitor_two_alone(desk):
+    desk.two_monitors()
+    desk.screen.dock(0, 960, 40, 1080)
+    station = on_monitor(desk, 2)
+    until("the window in the middle of monitor 2", lambda: stands_at(station, (960 + 240, 405, 480, 270)))
+
+
+@scenario
+def a_panel_on_monitor_one_moves_the_middle_of_monitor_one_up(desk):
+    desk.two_monitors()
+    desk.screen.dock(0, 960, 40, 1080)
+    station = on_monitor(desk, 1)
+    until("the window in the middle of what is free", lambda: stands_at(station, (240, 385, 480, 270)))
+
+
+def on_monitor(desk, number):
+    """A station whose window stands on the other monitor at the start and belongs on this one."""
+    station = Station(desk, place=(1000 if number == 1 else 20, 40, 480, 270))
+    if number == 2:
+        station.change("Output", Monitor2="True")
+    station.playlist(media.clip("green", 60))
+    return station.start_on_air()
+
+
 def stands_at(station, place):
     window = station.output()
     return window is not None and (window.x, window.y, window.width, window.height) == place

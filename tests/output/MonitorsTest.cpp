@@ -39,6 +39,18 @@ TEST_F(MonitorsTest, AWindowThatIsOnItsMonitorAlreadyIsLeftExactlyWhereItIsEvenH
   EXPECT_EQ(Place(), (At{-400, 700}));
 }
 
+TEST_F(MonitorsTest, AMonitorThatWasUnpluggedAndIsBackStillCountsAsTheWindowsOwn) {
+  TwoMonitors();
+  PlaceAt(0, 0);
+  Output().MoveTo(2);
+  PlaceAt(2000, 10);
+  const std::vector<MonitorInfo> both = sim.monitors.monitors;
+  sim.monitors.monitors.pop_back();
+  sim.monitors.monitors = both;
+  Output().MoveTo(2);
+  EXPECT_EQ(Place(), (At{2000, 10}));
+}
+
 TEST_F(MonitorsTest, AWindowAtANegativeOffsetIsCentredAllTheSame) {
   TwoMonitors();
   PlaceAt(-200, -100);

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include "platform/qt/desktop/WorkArea.h"
+
 namespace {
 
 // The active window, else any window of the operator's that is on the screen; null when all are hidden.
@@ -40,7 +42,7 @@ void PlaceBeforeOperator(QDialog& dialog) {
   const QWidget* operators = OperatorsWindow();
   const QScreen* screen = BestScreen(operators);
   dialog.adjustSize();
-  const QRect room = screen->availableGeometry();
+  const QRect room = WorkArea(*screen);
   QRect place(QPoint(), dialog.size());
   place.moveCenter(operators != nullptr && operators->screen() == screen ? operators->geometry().center()
                                                                          : room.center());

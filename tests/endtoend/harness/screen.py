@@ -83,6 +83,17 @@ class Screen:
         xlib.XSendEvent(self._display, self._root, 0, REDIRECT_AND_NOTIFY, ctypes.byref(event))
         xlib.XFlush(self._display)
 
+    def dock(self, left, width, height, desktop_height):
+        """Puts up a panel of the desktop along the bottom, `height` pixels deep, that keeps its place free."""
+        top = desktop_height - height
+        panel = xlib.XCreateSimpleWindow(self._display, self._root, left, top, width, height, 0, 0, 0x404040)
+        dock = xlib.XInternAtom(self._display, b"_NET_WM_WINDOW_TYPE_DOCK", 0)
+        self._set(panel, b"_NET_WM_WINDOW_TYPE", xlib.XA_ATOM, [dock])
+        strut = [0, 0, 0, height, 0, 0, 0, 0, 0, 0, left, left + width - 1]
+        self._set(panel, b"_NET_WM_STRUT_PARTIAL", xlib.XA_CARDINAL, strut)
+        xlib.XMapWindow(self._display, panel)
+        xlib.XFlush(self._display)
+
     def keys(self, *keys):
         self._do("key", *keys)
 
@@ -97,6 +108,11 @@ class Screen:
 
     def picture(self, path):
         subprocess.run(["import", "-display", self.name, "-window", "root", str(path)], check=False, timeout=20)
+
+    def _set(self, window, name, kind, numbers):
+        values = (ctypes.c_long * len(numbers))(*numbers)
+        atom = xlib.XInternAtom(self._display, name, 0)
+        xlib.XChangeProperty(self._display, window, atom, kind, 32, 0, values, len(numbers))
 
     def _do(self, *arguments):
         subprocess.run(["xdotool", *arguments], check=True, timeout=20, env={"DISPLAY": self.name})

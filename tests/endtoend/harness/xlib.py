@@ -9,6 +9,9 @@ Window = ctypes.c_ulong
 Atom = ctypes.c_ulong
 Pointer = ctypes.c_void_p
 
+XA_ATOM = 4
+XA_CARDINAL = 6
+
 
 class Attributes(ctypes.Structure):
     _fields_ = [
@@ -73,6 +76,11 @@ XGetImage = declare("XGetImage", ctypes.POINTER(Image), Pointer, Window, ctypes.
                     ctypes.c_uint, ctypes.c_ulong, ctypes.c_int)
 XDestroyImage = declare("XDestroyImage", ctypes.c_int, ctypes.POINTER(Image))
 XSendEvent = declare("XSendEvent", ctypes.c_int, Pointer, Window, ctypes.c_int, ctypes.c_long, Pointer)
+XCreateSimpleWindow = declare("XCreateSimpleWindow", Window, Pointer, Window, ctypes.c_int, ctypes.c_int, ctypes.c_uint,
+                              ctypes.c_uint, ctypes.c_uint, ctypes.c_ulong, ctypes.c_ulong)
+XChangeProperty = declare("XChangeProperty", ctypes.c_int, Pointer, Window, Atom, Atom, ctypes.c_int, ctypes.c_int,
+                          Pointer, ctypes.c_int)
+XMapWindow = declare("XMapWindow", ctypes.c_int, Pointer, Window)
 XFree = declare("XFree", ctypes.c_int, Pointer)
 XFlush = declare("XFlush", ctypes.c_int, Pointer)
 
