@@ -146,6 +146,8 @@ TEST_F(DayScheduleTest, TheSameDateAndTimeCannotBeEnteredTwiceWhateverThePlaylis
             1);
   EXPECT_EQ(Playlists().ListSchedule.Count(), 1);
   EXPECT_EQ(Playlists().ListSchedule.Row(1).SubItem(1), "A.plt");
+  EXPECT_EQ(Playlists().ListSchedule.SelectedItem(), 1);
+  EXPECT_EQ(sim.windows.focus, "frmPlaylist.ListSchedule");
 }
 
 TEST_F(DayScheduleTest, ATypedNameOfNoPlaylistPassesAndIsMissingAtItsTime) {

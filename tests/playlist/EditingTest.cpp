@@ -29,6 +29,11 @@ class EditingTest : public StationTest {
     for (const ListRow& row : Playlists().ListPlay.Rows()) order += row.selected ? "(" + row.text + ")" : row.text;
     return order;
   }
+  Names Combo() {
+    Names names;
+    for (int i = 0; i < Playlists().cmbPlaylist.ListCount(); ++i) names.push_back(Playlists().cmbPlaylist.List(i));
+    return names;
+  }
   std::string File() { return sim.files.Read("/station/Playlist/Day.plt").value_or("(none)"); }
   bool Said(const std::string& line) { return std::ranges::count(sim.trace.Take(), line) > 0; }
 };
@@ -56,6 +61,7 @@ TEST_F(EditingTest, AStartTimeThatIsTakenLeavesTheFileAndSelectsTheRow) {
   EXPECT_TRUE(Said("box \"07:00:00 AM already allocated as Play Time, please chose a different time\" \"Playlist\""));
   EXPECT_EQ(File(), before);
   EXPECT_EQ(Playlists().ListPlay.SelectedItem(), 1);
+  EXPECT_EQ(sim.windows.focus, "frmPlaylist.ListPlay");
 }
 
 TEST_F(EditingTest, TheStartTimeWrapsPastMidnight) {
@@ -70,11 +76,17 @@ TEST_F(EditingTest, TheStartTimeWrapsPastMidnight) {
 
 TEST_F(EditingTest, AnEndTimeOfNoTimeIsStoredAndLeavesTheStartTime) {
   Desk();
+  const DateTime start{.hour = 9, .minute = 8, .second = 7};
+  Playlists().TP.Value = start;
+  Advance(200ms);
   Playlists().txtEndTime.Type("later");
+  sim.trace.Take();
   Playlists().btnAdd.Press();
-  EXPECT_NE(File().find("EndTime=later"), std::string::npos);
-  EXPECT_EQ(Playlists().TP.Value.Get().second, 0);
-  EXPECT_EQ(Playlists().ListPlay.Count(), 1);
+  EXPECT_EQ(File(), "[09:08:07 AM]\r\nFileName=a\r\nDuration=0:0:10\r\nEndTime=later\r\nPath=/clips/a.mp4\r\n");
+  EXPECT_EQ(Playlists().TP.Value.Get(), start);
+  ASSERT_EQ(Playlists().ListPlay.Count(), 1);  // shown all the same
+  EXPECT_EQ(Playlists().ListPlay.Row(1).SubItem(2), "later");
+  EXPECT_EQ(sim.trace.Take(), Names{});  // no box, and no new start time that would have run the probe anew
 }
 
 TEST_F(EditingTest, ANewEntryIsTheLastRowWhereverItsTimeFalls) {
@@ -158,6 +170,30 @@ TEST_F(EditingTest, AMoveWritesTheFileInTheNewOrderAndKeepsTheWholeRow) {
   EXPECT_LT(File().find("[c]"), File().find("[a]"));
 }
 
+TEST_F(EditingTest, AMovedRowKeepsItsTagItsKeyAndItsTickAndShowsTheFirstIconWhicheverWayItGoes) {
+  const ListRow row{.text = "b",
+                    .subItems = {"0:0:1", "07:00:01 AM", "name", "/clips/b"},
+                    .smallIcon = 2,
+                    .selected = true,
+                    .checked = true,
+                    .tag = "tag",
+                    .key = "key"};
+  ListRow moved = row;
+  moved.smallIcon = 1;
+  frmPlaylist& form = Playlists();
+  const std::pair<CommandButton*, int> moves[] = {
+      {&form.btnUp, 2}, {&form.btnDown, 4}, {&form.btnMostUp, 1}, {&form.btnMostDown, 5}};
+  for (const auto& [button, place] : moves) {
+    Rows("aacdd", {});
+    form.ListPlay.Remove(3);
+    form.ListPlay.Insert(3, row);
+    button->Press();
+    EXPECT_EQ(form.ListPlay.Row(place), moved) << button->Name();
+    EXPECT_EQ(form.ListPlay.SelectedItem(), place) << button->Name();
+    EXPECT_EQ(form.ListPlay.Count(), 5) << button->Name();
+  }
+}
+
 TEST_F(EditingTest, WithNothingSelectedAMoveOnlyRewritesTheFile) {
   Rows("ab", {});
   Playlists().btnDown.Press();
@@ -198,14 +234,20 @@ TEST_F(EditingTest, ATakenNameIsToldAndTheOldPlaylistStays) {
 }
 
 TEST_F(EditingTest, APlaylistIsDeletedAfterAYesItsRowsStayAndTheComboKeepsItsName) {
+  sim.files.Put("/station/Playlist/Evening.plt", "");
   Rows("ab", {});
   Playlists().btnDeletePlaylist.Press();
   EXPECT_TRUE(Said("box \"Are You Sure you wnat to Delete this playlist?\" \"DELETE\""));
-  EXPECT_EQ(Playlists().FilePlaylist.ListCount(), 1);
+  EXPECT_EQ(Playlists().FilePlaylist.ListCount(), 2);
+  EXPECT_EQ(Combo(), (Names{"Day.plt", "Evening.plt"}));
   sim.dialogs.answers = {Answer::kYes};
   Playlists().btnDeletePlaylist.Press();
   EXPECT_EQ(File(), "(none)");
   EXPECT_EQ(Order(), "ab");
+  EXPECT_EQ(Playlists().FilePlaylist.ListCount(), 1);
+  EXPECT_EQ(Playlists().FilePlaylist.List(0), "Evening.plt");
+  EXPECT_EQ(Combo(), (Names{"Day.plt", "Evening.plt", "Evening.plt"}));  // what is left is added once more
+  EXPECT_EQ(station.stores.PlaylistIni.Path(), "/station/Playlist/Day.plt");
 }
 
 TEST_F(EditingTest, WithNothingPickedRemovePlaylistDeletesNothingAndSetToPlayWritesTheEmptyText) {

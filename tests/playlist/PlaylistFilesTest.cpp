@@ -91,6 +91,13 @@ TEST_F(PlaylistFilesTest, AnUnreadablePlaylistLeavesTheListEmptyWithoutAWord) {
   Playlist("Day.plt", {Clip("a.mp4")});
   sim.files.SetFault("/station/Playlist/Day.plt", FileFault::kUnreadable);
   EXPECT_EQ(Playlists().ListPlay.Count(), 0);
+  Playlist("Other.plt", {Clip("a.mp4")});
+  Playlists().FilePlaylist.Refresh();
+  Playlists().FilePlaylist.Pick(1);
+  ASSERT_EQ(Playlists().ListPlay.Count(), 1);
+  Playlists().FilePlaylist.Pick(0);  // the unreadable one takes the place of rows that were there
+  EXPECT_EQ(Playlists().ListPlay.Count(), 0);
+  for (const std::string& line : sim.trace.Take()) EXPECT_FALSE(line.starts_with("box")) << line;
 }
 
 TEST_F(PlaylistFilesTest, OnlyFilesOfTheKindAreListed) {

@@ -59,6 +59,16 @@ TEST_F(ResumeTest, AfterARestoredRowTheSequenceBeginsWithTheFirst) {
   EXPECT_EQ(Aired(), (Names{"b.mp4", "a.mp4"}));
 }
 
+TEST_F(ResumeTest, TheRestoredRowIsGivenToThePlayerWithoutATestForItsFile) {
+  Three();
+  Set("Playlist", "LastPlay", "1");
+  Set("Playlist", "LastPlaySchdule", "2");
+  sim.files.Remove("/clips/b.mp4");
+  Restart();
+  Advance(10s);
+  EXPECT_EQ(Aired(), Names{"b.mp4"});
+}
+
 TEST_F(ResumeTest, WithoutARecordedRowNothingStarts) {
   Three();
   Set("Playlist", "LastPlay", "1");

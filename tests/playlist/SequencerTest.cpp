@@ -10,6 +10,16 @@ class SequencerTest : public StationTest {
     Set("Playlist", "FolderPath", "/clips");
     Set("Playlist", "PlayLocation", "1");
   }
+  // The rows that are selected while `act` runs, one for each time that one is.
+  template <class Act>
+  std::vector<int> RowsTried(Act act) {
+    std::vector<int> tried;
+    const auto watching = Playlists().ListPlay.Changed.Subscribe([&](const ListChange& change) {
+      if (change.what == ListChange::What::kSelection) tried.push_back(Playlists().ListPlay.SelectedItem());
+    });
+    act();
+    return tried;
+  }
   void Call(int times) {
     for (int i = 0; i < times; ++i) {
       Playlists().PlayNext();
@@ -75,10 +85,22 @@ TEST_F(SequencerTest, AMissingRowIsSkippedAndTheCursorStandsAtTheOneThatPlays) {
 }
 
 TEST_F(SequencerTest, WhenAllFilesAreMissingOnePassIsMadeAndNothingPlays) {
-  Playlist("Day.plt", {"/clips/x.mp4", "/clips/y.mp4"});
+  Playlist("Day.plt", {"/clips/x.mp4", "/clips/y.mp4", "/clips/z.mp4"});
+  Playlists();
+  Output();
+  Advance(1s);  // past the seek of a form that has just been loaded
+  sim.trace.Take();
+  EXPECT_EQ(RowsTried([this] { Call(1); }), (std::vector<int>{1, 2, 3}));
+  EXPECT_EQ(sim.trace.Take(), Names{});  // neither a file on any player nor a box
+}
+
+TEST_F(SequencerTest, WhenAllFilesAreMissingThePassBeginsBehindTheCursorAndWraps) {
+  Playlist("Day.plt", {Clip("x.mp4"), Clip("y.mp4"), Clip("z.mp4")});
   Call(1);
+  for (const char* name : {"x.mp4", "y.mp4", "z.mp4"}) sim.files.Remove(std::string("/clips/") + name);
+  Aired();
+  EXPECT_EQ(RowsTried([this] { Call(1); }), (std::vector<int>{2, 3, 1}));
   EXPECT_EQ(Aired(), Names{});
-  EXPECT_TRUE(sim.dialogs.answers.empty());
 }
 
 TEST_F(SequencerTest, TenThousandMissingFilesAreOnePassToo) {
@@ -86,7 +108,7 @@ TEST_F(SequencerTest, TenThousandMissingFilesAreOnePassToo) {
   for (int i = 0; i < 10000; ++i) text += "[row " + std::to_string(i) + "]\r\nPath=/clips/none.mp4\r\n";
   sim.files.Put("/station/Playlist/Gone.plt", text);
   Set("Playlist", "LastPlaylist", "Gone.plt");
-  Call(1);
+  EXPECT_EQ(RowsTried([this] { Call(1); }).size(), 10000u);
   EXPECT_EQ(Aired(), Names{});
 }
 
@@ -234,9 +256,17 @@ TEST_F(SequencerTest, AClickOnARowPutsItOnTheAirAndRemembersItButMovesNoCursor) 
 
 TEST_F(SequencerTest, AClickOnARowWithPreviewTickedLeavesTheAirAlone) {
   Three();
+  Output().MainPlay("/clips/a.mp4");
+  Advance(1s);
   Playlists().chkPreview.Toggle();
+  sim.trace.Take();
   Playlists().ListPlay.ClickRow(2);
-  EXPECT_EQ(Opened("frmPlaylist.Player"), Names{"b.mp4"});
+  Advance(1s);
+  EXPECT_EQ(sim.trace.Take(), Names{"frmPlaylist.Player open /clips/b.mp4"});
+  EXPECT_EQ(MainPlayer().Url(), "/clips/a.mp4");
+  EXPECT_EQ(MainPlayer().State(), PlayState::kPlaying);
+  EXPECT_EQ(Setting("Playlist", "LastPlaySchdule"), "(none)");
+  EXPECT_EQ(Setting("Playlist", "LastPlaylist"), "Day.plt");
 }
 
 TEST_F(SequencerTest, AClickOnARowWhoseFileIsMissingPlaysTheNextInSequence) {
@@ -248,8 +278,15 @@ TEST_F(SequencerTest, AClickOnARowWhoseFileIsMissingPlaysTheNextInSequence) {
 TEST_F(SequencerTest, TheQuickListStepsOnThePreviewPlayerAndWraps) {
   for (const char* name : {"a.mp4", "b.mp4"}) Clip(name);
   Set("Playlist", "QuickPlayPath", "/clips");
+  Output().MainPlay("/clips/b.mp4");
+  Advance(1s);
+  sim.trace.Take();
   for (int i = 0; i < 3; ++i) Playlists().Command3.Press();
-  EXPECT_EQ(Opened("frmPlaylist.Player"), (Names{"a.mp4", "b.mp4", "a.mp4"}));
+  Advance(1s);
+  EXPECT_EQ(sim.trace.Take(), (Names{"frmPlaylist.Player open /clips/a.mp4", "frmPlaylist.Player open /clips/b.mp4",
+                                     "frmPlaylist.Player open /clips/a.mp4"}));
+  EXPECT_EQ(MainPlayer().Url(), "/clips/b.mp4");
+  EXPECT_EQ(MainPlayer().State(), PlayState::kPlaying);
 }
 
 TEST_F(SequencerTest, AClickInTheQuickListSetsItsCursorOnlyWithPreviewTicked) {

@@ -1,3 +1,4 @@
+#include "settings/TimeTexts.h"
 #include "tests/StationTest.h"
 
 using namespace std::chrono_literals;
@@ -29,11 +30,27 @@ TEST_F(TimeScheduleTest, ARowStartsWithinTheSecondThatItNames) {
 }
 
 TEST_F(TimeScheduleTest, EverySecondOfADayFindsItsRowOnceAndOnlyOnce) {
-  std::vector<std::string> all;
-  for (int second = 10; second < 60; ++second) all.push_back("07:00:" + std::to_string(second) + " AM");
-  Rows(all);
-  Advance(1min);
-  EXPECT_EQ(Aired().size(), 50u);
+  Rows({});
+  Output().Timer1.Enabled = false;  // no crawler
+  DateTime minute{.hour = 7};
+  for (int i = 0; i < 24 * 60; ++i) {
+    // The seconds of this minute, and those of the same minute in the other half of the day.
+    std::vector<ListRow> rows;
+    Names expected;
+    for (const int hour : {minute.hour, (minute.hour + 12) % 24}) {
+      for (int second = 0; second < 60; ++second) {
+        const std::string start = TimeText({.hour = hour, .minute = minute.minute, .second = second});
+        rows.push_back({.text = start, .subItems = {"", "", "", "/clips/" + start}});
+        if (hour == minute.hour) expected.push_back(start);
+      }
+    }
+    if (i == 0) expected.erase(expected.begin());  // the schedule was switched on within this second
+    Playlists().ListPlay.Assign(std::move(rows));
+    Advance(1min);
+    ASSERT_EQ(Aired(), expected);
+    minute.hour = (minute.hour + (minute.minute + 1) / 60) % 24;
+    minute.minute = (minute.minute + 1) % 60;
+  }
 }
 
 TEST_F(TimeScheduleTest, AMatchStartsInEveryModeAndMovesNoCursor) {
@@ -99,6 +116,39 @@ TEST_F(TimeScheduleTest, ThePanelBlinksOnceInTwoSecondsAndIsWhiteWhenOff) {
   EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
   Advance(5s);
   EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
+}
+
+TEST_F(TimeScheduleTest, SwitchedOffInEitherPhaseThePanelIsWhiteAndGoesOnWithTheOtherPhaseLater) {
+  Rows({});
+  Advance(1100ms);
+  ASSERT_EQ(Playlists().PicTimeOn.BackColor.Get(), kRed);
+  Playlists().chkTime.Toggle();
+  EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
+  Playlists().chkTime.Toggle();
+  EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
+  Advance(1s);  // the phase is the timer's own, and it was red
+  EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
+  Playlists().chkTime.Toggle();
+  EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kWhite);
+  Playlists().chkTime.Toggle();
+  Advance(1s);
+  EXPECT_EQ(Playlists().PicTimeOn.BackColor.Get(), kRed);
+}
+
+TEST_F(TimeScheduleTest, AMatchIsScrolledIntoViewSelectedAndGivenTheKeyboardAndNothingElseIs) {
+  Rows({"07:00:05 AM", "07:00:10 AM", "07:00:20 AM"});
+  std::vector<int> shown;
+  const auto watching = Playlists().ListPlay.Changed.Subscribe([&](const ListChange& change) {
+    if (change.what == ListChange::What::kEnsureVisible) shown.push_back(change.index);
+  });
+  Advance(4s);
+  EXPECT_EQ(sim.windows.focus, "");
+  EXPECT_EQ(Playlists().ListPlay.SelectedItem(), 0);
+  Advance(8s);
+  EXPECT_EQ(sim.windows.focus, "frmPlaylist.ListPlay");
+  EXPECT_EQ(shown, (std::vector<int>{1, 2}));
+  EXPECT_EQ(Playlists().ListPlay.SelectedItem(), 2);
+  EXPECT_FALSE(Playlists().ListPlay.Row(1).selected);
 }
 
 TEST_F(TimeScheduleTest, ItWorksWithTheFormHiddenAndNotAtAllBeforeItIsLoaded) {
