@@ -60,13 +60,32 @@ TEST_F(MonitorsTest, AWindowAtANegativeOffsetIsCentredAllTheSame) {
 
 TEST_F(MonitorsTest, TheWindowCrossesToItsMonitorBeforeItIsMadeNormalThirtyTwoPixelsInsideAtLeast) {
   TwoMonitors();
-  PlaceAt(-200, 40);
-  Output().Maximised = true;
-  At crossed;
-  const auto watching = Output().Maximised.Changed.Subscribe([&] { crossed = Place(); });
-  Output().MoveTo(2);
-  EXPECT_EQ(crossed, (At{1920 + 32, 40}));
-  EXPECT_FALSE(Output().Maximised);
+  sim.monitors.monitors[0].area = {-1920, -1080, 0, 0};  // left of and above the other
+  sim.monitors.monitors[0].workArea = {-1920, -1080, 0, -40};
+  sim.monitors.monitors[1].area = {0, 0, 1920, 1080};
+  struct Crossing {
+    At from;  // on the first monitor
+    At landed;
+  };
+  for (const Crossing& one :
+       {Crossing{{-1820, -1040}, {100, 40}}, Crossing{{-2120, -1040}, {32, 40}}, Crossing{{-1820, -1180}, {100, 32}},
+        Crossing{{-2120, -1180}, {32, 32}}, Crossing{{-1920, -1080}, {0, 0}}, Crossing{{-1921, -1081}, {32, 32}},
+        Crossing{{-1919, -1079}, {1, 1}}, Crossing{{-700, -500}, {1220, 580}}}) {
+    for (const bool back : {false, true}) {
+      const At here = back ? At{one.from.first + 1920, one.from.second + 1080} : one.from;
+      const At there = back ? At{one.landed.first - 1920, one.landed.second - 1080} : one.landed;
+      // Small enough to lie on its own monitor for the greater part, wherever it stands.
+      Output().Width = 600 * 15;
+      Output().Height = 400 * 15;
+      PlaceAt(static_cast<int>(here.first), static_cast<int>(here.second));
+      Output().Maximised = true;
+      At crossed;
+      const auto watching = Output().Maximised.Changed.Subscribe([&] { crossed = Place(); });
+      Output().MoveTo(back ? 1 : 2);
+      EXPECT_EQ(crossed, there) << "from " << here.first << ", " << here.second;
+      EXPECT_FALSE(Output().Maximised);
+    }
+  }
 }
 
 TEST_F(MonitorsTest, AWindowLargerThanTheWorkAreaBeginsAtItsCornerAndOverhangs) {

@@ -1,3 +1,4 @@
+#include "settings/Numbers.h"
 #include "tests/StationTest.h"
 
 using namespace std::chrono_literals;
@@ -17,24 +18,90 @@ class OutputWindowTest : public StationTest {
     ad.CrawlerSideWidth = "1000";
   }
 
+  // The panes that the load and the re-layout lay out, front to back.
+  static std::vector<Control*> Laid(frmPlayer& form) {
+    return {&form.PicVideoAd, &form.AdPlayer,   &form.picNext,   &form.picOnline, &form.PlayerOnline,
+            &form.PicAd,      &form.FlashRight, &form.FlashLeft, &form.pic,       &form.Flash,
+            &form.PicMedia,   &form.Player,     &form.PicAv};
+  }
+  // Left, top, width and height of the window and of each of those panes.
+  static Names Measures(frmPlayer& form) {
+    const auto line = [](const auto& one) {
+      std::string text = one.Name();
+      for (const Twips measure : {one.Left.Get(), one.Top.Get(), one.Width.Get(), one.Height.Get()}) {
+        text += " " + DoubleText(measure);
+      }
+      return text;
+    };
+    Names lines{line(form)};
+    for (const Control* pane : Laid(form)) lines.push_back(line(*pane));
+    return lines;
+  }
+  // Names front to back, what a pane holds behind it in brackets.
+  static std::string Tree(const std::vector<Control*>& controls) {
+    std::string text;
+    for (const Control* control : controls) {
+      text += (text.empty() ? "" : " ") + control->Name();
+      if (!control->Children().empty()) text += "(" + Tree(control->Children()) + ")";
+    }
+    return text;
+  }
+
   CurrentAd& ad = station.Shared<CurrentAd>();
 };
 
 TEST_F(OutputWindowTest, TheLoadLaysEveryPaneOut) {
+  ad.CrawlerAdTop = "150";
+  EXPECT_EQ(Measures(Output()), (Names{
+                                    "frmPlayer 0 0 15450 11520",
+                                    "PicVideoAd 0 0 15450 11520",
+                                    "AdPlayer 0 0 15450 12420",
+                                    "picNext 19950 5310 4500 900",
+                                    "picOnline 0 0 15450 11520",
+                                    "PlayerOnline 0 0 15450 12120",
+                                    "PicAd 0 10770 15450 600",
+                                    "FlashRight 14450 0 1000 600",
+                                    "FlashLeft 0 0 1000 600",
+                                    "pic 0 600 0 0",
+                                    "Flash 0 0 15450 600",
+                                    "PicMedia 0 0 15450 11520",
+                                    "Player 0 0 15450 12420",
+                                    "PicAv 2197.5 2572.5 11055 6375",
+                                }));
+}
+
+TEST_F(OutputWindowTest, TheRelayoutLaysEveryPaneOutAnewInTheSizeThatTheStoreGave) {
+  sim.files.Put("/station/Window.ini", "[frmPlayer]\r\nLeft=15\r\nTop=30\r\nWidth=28800\r\nHeight=16200\r\n");
   frmPlayer& form = Output();
-  EXPECT_EQ(form.Width, 15450);
-  EXPECT_EQ(form.Height, 11520);
-  for (const Control* pane : std::initializer_list<const Control*>{&form.PicMedia, &form.PicVideoAd, &form.picOnline}) {
-    EXPECT_EQ(pane->Width, 15450) << pane->Name();
-    EXPECT_EQ(pane->Height, 11520) << pane->Name();
+  form.Timer1.Enabled = false;
+  form.ViewAd("/ads/header.jpg", "/ads/scorl.jpg", "/ads/left.jpg", "/ads/right.jpg");
+  for (Control* pane : Laid(form)) {
+    pane->Left = 111;
+    pane->Top = 222;
   }
-  EXPECT_EQ(form.Player.Height, 11520 + 900);
-  EXPECT_EQ(form.AdPlayer.Height, 11520 + 900);
-  EXPECT_EQ(form.PlayerOnline.Height, 11520 + 600);
-  EXPECT_EQ(form.PicAv.Left, (15450 - 11055) / 2.0);
-  EXPECT_EQ(form.PicAv.Top, (11520 - 6375) / 2.0);
-  EXPECT_EQ(form.picNext.Left, 15450 + form.picNext.Width);
-  EXPECT_EQ(form.PicAd.Width, 15450);
+  for (Control* pane : std::initializer_list<Control*>{&form.PicMedia, &form.Player, &form.PicAd, &form.PicVideoAd,
+                                                       &form.AdPlayer, &form.picOnline, &form.PlayerOnline, &form.Flash,
+                                                       &form.FlashLeft, &form.FlashRight}) {
+    pane->Width = 333;
+    pane->Height = 444;
+  }
+  Advance(2100ms);
+  EXPECT_EQ(Measures(form), (Names{
+                                "frmPlayer 15 30 28800 16200",
+                                "PicVideoAd 0 0 28800 16200",
+                                "AdPlayer 0 0 28800 17100",
+                                "picNext 33300 7650 4500 900",
+                                "picOnline 0 0 28800 16200",
+                                "PlayerOnline 0 0 28800 16800",
+                                "PicAd 0 14250 28800 1950",
+                                "FlashRight 27800 0 1000 1950",
+                                "FlashLeft 0 0 1000 1950",
+                                "pic 0 600 6000 1350",
+                                "Flash 0 0 28800 600",
+                                "PicMedia 0 0 28800 16200",
+                                "Player 0 0 28800 17100",
+                                "PicAv 8872.5 4912.5 11055 6375",
+                            }));
 }
 
 TEST_F(OutputWindowTest, PanesStartVisibleOrHiddenAsTheChannelNeedsThem) {
@@ -50,12 +117,10 @@ TEST_F(OutputWindowTest, PanesStartVisibleOrHiddenAsTheChannelNeedsThem) {
 }
 
 TEST_F(OutputWindowTest, ThePanesStandInTheirOrderFrontToBack) {
-  std::string order;
-  for (const Control* control : Output().Controls()) order += control->Name() + " ";
-  EXPECT_EQ(order, "PicVideoAd PicSide picNext picOnline PicAd PicMedia m ");
-  order.clear();
-  for (const Control* control : Output().PicAd.Children()) order += control->Name() + " ";
-  EXPECT_EQ(order, "FlashRight FlashLeft picSize pic Flash ");
+  EXPECT_EQ(Tree(Output().Controls()),
+            "PicVideoAd(AdPlayer) PicSide(FlashSideAd) picNext(PlayerNext lblUpNext) "
+            "picOnline(lblChannelName PlayerOnline) PicAd(FlashRight FlashLeft picSize pic Flash) "
+            "PicMedia(Player PicAv) m");
 }
 
 TEST_F(OutputWindowTest, ThePlayersHaveTheirVolumesAndStretch) {
@@ -148,9 +213,17 @@ TEST_F(OutputWindowTest, ASpeedOfNoNumberNeverMovesThePicture) {
 TEST_F(OutputWindowTest, TheSideColumnStandsAtTheLeftEdgeAndMakesNoRoom) {
   frmPlayer& form = Output();
   form.ViewAd("/ads/header.jpg", "/ads/scorl.jpg", "", "");
+  for (Control* pane : std::initializer_list<Control*>{&form.PicSide, &form.FlashSideAd}) {
+    pane->Left = 111;
+    pane->Top = 222;
+  }
   form.SideAd();
   EXPECT_TRUE(form.PicSide.Visible);
   EXPECT_EQ(form.PicSide.Left, 0);
+  EXPECT_EQ(form.PicSide.Top, 0);
+  EXPECT_EQ(form.PicSide.Width, 3000);
+  EXPECT_EQ(form.FlashSideAd.Left, 0);
+  EXPECT_EQ(form.FlashSideAd.Top, 0);
   EXPECT_EQ(form.PicSide.Height, 11520 - 1950);
   EXPECT_EQ(form.FlashSideAd.Height, form.PicSide.Height);
   EXPECT_EQ(form.FlashSideAd.Width, form.PicSide.Width);
