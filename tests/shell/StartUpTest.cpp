@@ -9,6 +9,13 @@ class StartUpTest : public StationTest {
     station.forms.Get<frmLoad>().Show();
     Advance(2s);
   }
+
+  static inline const Names kFirstRun{
+      "frmLoad loaded",   "frmLoad shown",    "frmMid loaded",
+      "frmPlayer loaded", "cursor down",      "taskbar hidden",
+      "frmMid shown",     "frmMid hidden",    "run at log-on \"My App\" /station/corvanta",
+      "hot key 0 Ctrl+M", "hot key 1 Ctrl+X", "hot key 2 Ctrl+T",
+      "hot key 3 Ctrl+O", "screen saver 0",   "frmLoad unloaded"};
 };
 
 TEST_F(StartUpTest, TheSplashStandsTwoSecondsInTheMiddleOfTheScreen) {
@@ -40,11 +47,7 @@ TEST_F(StartUpTest, TheSplashsButtonEndsTheProcessWithNothingRestored) {
 
 TEST_F(StartUpTest, AFirstRunWalksInItsOrderAndHidesCursorTaskbarAndControlWindow) {
   Start();
-  EXPECT_EQ(
-      sim.trace.Take(),
-      (Names{"frmLoad loaded", "frmLoad shown", "frmMid loaded", "frmPlayer loaded", "cursor down", "taskbar hidden",
-             "frmMid shown", "frmMid hidden", "run at log-on \"My App\" /station/corvanta", "hot key 0 Ctrl+M",
-             "hot key 1 Ctrl+X", "hot key 2 Ctrl+T", "hot key 3 Ctrl+O", "screen saver 0", "frmLoad unloaded"}));
+  EXPECT_EQ(sim.trace.Take(), kFirstRun);
 }
 
 TEST_F(StartUpTest, AStationThatWasOnTheAirComesBackWithNobodyAtTheKeyboard) {
@@ -177,11 +180,16 @@ TEST_F(StartUpTest, YesInTheExitBoxBringsTheTaskbarBackAndUnloadsNothing) {
 }
 
 TEST_F(StartUpTest, ASettingsFileThatCannotBeReadIsAFirstRun) {
-  Set("Output", "Show", "True");
+  for (const char* section : {"Output", "AdSettings", "LeftSideAd"}) Set(section, "Show", "True");
+  Set("Playlist", "LastPlay", "1");
+  for (const char* key : {"ShowMouse", "ShowTaskbar", "StartUp"}) Set("Settings", key, "1");
   sim.files.SetFault("/station/Settings.ini", FileFault::kUnreadable);
   Start();
-  EXPECT_FALSE(Output().Visible);
-  EXPECT_TRUE(station.forms.Loaded<frmMid>());
+  EXPECT_EQ(sim.trace.Take(), kFirstRun);
+  EXPECT_EQ(sim.desktop.cursorCount, -1);
+  EXPECT_FALSE(sim.desktop.taskbarVisible);
+  EXPECT_FALSE(ControlWindow().Visible);
+  EXPECT_FALSE(Output().Visible || Output().PicAd.Visible || Output().PicSide.Visible || Output().Timer1.Enabled);
 }
 
 class MaskingTest : public StationTest {
@@ -229,11 +237,26 @@ TEST_F(MaskingTest, UnmaskingAlwaysGivesTheDesignHeightWhateverItWasBefore) {
 TEST_F(MaskingTest, APowerCutWhileMaskedBringsTheWholeWindowBack) {
   ControlWindow();
   frmPlayer& output = OutputWithStrip();
+  output.Top = 450;
   Advance(3s);
   ControlWindow().mnuMasking.Choose();
   Advance(3s);
-  IniFile store(sim.files);
-  store.SetPath("/station/Window.ini");
-  EXPECT_EQ(store.ReadValue("frmPlayer", "Height", ""), "9000");
-  EXPECT_EQ(output.Height, 1950);
+  ASSERT_EQ(output.Height, 1950);
+
+  Station next(sim.world, "/station");
+  ConnectRoads(next);
+  const auto& control = next.forms.Get<frmMid>();
+  const auto& whole = next.forms.Get<frmPlayer>();
+  for (const auto wait : {0s, 3s}) {  // before the re-layout and after it
+    Advance(wait);
+    EXPECT_EQ(whole.Height, 9000);
+    EXPECT_EQ(whole.Width, 15450);
+    EXPECT_EQ(whole.Left, 700);
+    EXPECT_EQ(whole.Top, 450);
+    EXPECT_FALSE(whole.OnTop);
+    EXPECT_FALSE(control.MaskingOn);
+    EXPECT_FALSE(control.mnuMasking.Checked);
+  }
+  EXPECT_EQ(whole.PicMedia.Height, 9000);
+  EXPECT_EQ(whole.PicAd.Top, 9000 - whole.PicAd.Height);
 }
