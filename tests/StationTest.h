@@ -68,6 +68,18 @@ class StationTest : public ::testing::Test {
     return names;
   }
 
+  // A form's timers, as "Timer1 1000 ms on".
+  static std::vector<std::string> Timers(const Form& form) {
+    std::vector<std::string> timers;
+    for (const Component* one : form.Components()) {
+      const auto* timer = dynamic_cast<const Timer*>(one);
+      if (timer == nullptr) continue;
+      const std::string interval = std::to_string(timer->Interval().count()) + " ms";
+      timers.push_back(timer->Name() + " " + interval + (timer->Enabled ? " on" : ""));
+    }
+    return timers;
+  }
+
   SimWorld sim;
   Station station{sim.world, "/station"};
 };

@@ -24,18 +24,25 @@ class OutputWindowTest : public StationTest {
             &form.PicAd,      &form.FlashRight, &form.FlashLeft, &form.pic,       &form.Flash,
             &form.PicMedia,   &form.Player,     &form.PicAv};
   }
-  // Left, top, width and height of the window and of each of those panes.
-  static Names Measures(frmPlayer& form) {
-    const auto line = [](const auto& one) {
-      std::string text = one.Name();
-      for (const Twips measure : {one.Left.Get(), one.Top.Get(), one.Width.Get(), one.Height.Get()}) {
-        text += " " + DoubleText(measure);
-      }
-      return text;
-    };
-    Names lines{line(form)};
-    for (const Control* pane : Laid(form)) lines.push_back(line(*pane));
+  // Left, top, width and height of the window and of all that is in it, front to back.
+  static Names Measures(const frmPlayer& form) {
+    Names lines{Line(form)};
+    AddMeasures(lines, form.Controls());
     return lines;
+  }
+  static void AddMeasures(Names& lines, const std::vector<Control*>& controls) {
+    for (const Control* control : controls) {
+      lines.push_back(Line(*control));
+      AddMeasures(lines, control->Children());
+    }
+  }
+  template <class Measured>
+  static std::string Line(const Measured& one) {
+    std::string text = one.Name();
+    for (const Twips measure : {one.Left.Get(), one.Top.Get(), one.Width.Get(), one.Height.Get()}) {
+      text += " " + DoubleText(measure);
+    }
+    return text;
   }
   // Names front to back, what a pane holds behind it in brackets.
   static std::string Tree(const std::vector<Control*>& controls) {
@@ -56,17 +63,24 @@ TEST_F(OutputWindowTest, TheLoadLaysEveryPaneOut) {
                                     "frmPlayer 0 0 15450 11520",
                                     "PicVideoAd 0 0 15450 11520",
                                     "AdPlayer 0 0 15450 12420",
+                                    "PicSide 0 0 3000 0",
+                                    "FlashSideAd 0 0 0 0",
                                     "picNext 19950 5310 4500 900",
+                                    "PlayerNext 0 450 4500 450",
+                                    "lblUpNext 0 0 4500 450",
                                     "picOnline 0 0 15450 11520",
+                                    "lblChannelName 0 0 9000 450",
                                     "PlayerOnline 0 0 15450 12120",
                                     "PicAd 0 10770 15450 600",
                                     "FlashRight 14450 0 1000 600",
                                     "FlashLeft 0 0 1000 600",
+                                    "picSize 0 0 0 0",
                                     "pic 0 600 0 0",
                                     "Flash 0 0 15450 600",
                                     "PicMedia 0 0 15450 11520",
                                     "Player 0 0 15450 12420",
                                     "PicAv 2197.5 2572.5 11055 6375",
+                                    "m 0 0 0 0",
                                 }));
 }
 
@@ -90,17 +104,24 @@ TEST_F(OutputWindowTest, TheRelayoutLaysEveryPaneOutAnewInTheSizeThatTheStoreGav
                                 "frmPlayer 15 30 28800 16200",
                                 "PicVideoAd 0 0 28800 16200",
                                 "AdPlayer 0 0 28800 17100",
+                                "PicSide 0 0 3000 0",
+                                "FlashSideAd 0 0 0 0",
                                 "picNext 33300 7650 4500 900",
+                                "PlayerNext 0 450 4500 450",
+                                "lblUpNext 0 0 4500 450",
                                 "picOnline 0 0 28800 16200",
+                                "lblChannelName 0 0 9000 450",
                                 "PlayerOnline 0 0 28800 16800",
                                 "PicAd 0 14250 28800 1950",
                                 "FlashRight 27800 0 1000 1950",
                                 "FlashLeft 0 0 1000 1950",
+                                "picSize 0 0 1200 1950",
                                 "pic 0 600 6000 1350",
                                 "Flash 0 0 28800 600",
                                 "PicMedia 0 0 28800 16200",
                                 "Player 0 0 28800 17100",
                                 "PicAv 8872.5 4912.5 11055 6375",
+                                "m 0 0 0 0",
                             }));
 }
 
@@ -125,10 +146,27 @@ TEST_F(OutputWindowTest, ThePanesStandInTheirOrderFrontToBack) {
 
 TEST_F(OutputWindowTest, ThePlayersHaveTheirVolumesAndStretch) {
   Output();
-  EXPECT_TRUE(sim.media.Find("frmPlayer.Player")->StretchToFit());
-  EXPECT_FALSE(sim.media.Find("frmPlayer.AdPlayer")->StretchToFit());
-  EXPECT_EQ(sim.media.Find("frmPlayer.Player")->Volume(), 50);
-  EXPECT_EQ(sim.media.Find("frmPlayer.PlayerOnline")->Volume(), 100);
+  const auto expect = [this](const std::string& name, int volume, bool stretch) {
+    const SimPlayer& player = *sim.media.Find("frmPlayer." + name);
+    EXPECT_EQ(player.Volume(), volume) << name;
+    EXPECT_EQ(player.StretchToFit(), stretch) << name;
+    EXPECT_FALSE(player.Mute()) << name;
+  };
+  expect("Player", 50, true);
+  expect("AdPlayer", 50, false);
+  expect("PlayerOnline", 100, true);
+  expect("m", 50, false);
+}
+
+TEST_F(OutputWindowTest, ItsTimersHaveTheirIntervalsAndTwoRunFromTheStart) {
+  EXPECT_EQ(Timers(Output()), (Names{"Timer1 1 ms on", "Timer2 10 ms", "Timer3 10 ms", "Timer4 2000 ms on",
+                                     "TimerMedia 500 ms", "TimerAdPlayer 500 ms"}));
+}
+
+TEST_F(OutputWindowTest, TheBannerSaysWhatItAlwaysSaid) {
+  EXPECT_EQ(Output().PlayerNext.Text.Get(), "Press Ctrl+M for main menu");
+  EXPECT_EQ(Output().lblUpNext.Text.Get(), "Up next:");
+  EXPECT_EQ(Output().lblChannelName.Text.Get(), "");
 }
 
 TEST_F(OutputWindowTest, AnAdIsLaidOutHeaderOverPictureWithTheCapsOverTheEnds) {

@@ -128,3 +128,23 @@ TEST_F(PlaybackTest, WithNothingLoadedTheSliderIsLeftAlone) {
   Advance(3s);
   EXPECT_EQ(Playlists().SldPlayer.Max.Get(), 33);
 }
+
+TEST_F(PlaybackTest, TheTimerThatNothingStartsAsksForTheNextItemInTheLastTwentyFiveSeconds) {
+  Settle();
+  int asked = 0;
+  Output().ItemNearlyOver.Connect([&asked] { ++asked; });
+  Output().MainPlay(Clip("a.mp4", 60));
+  Advance(1s);
+  Output().Timer2.Enabled = true;
+  Advance(34s);
+  EXPECT_EQ(asked, 0);
+  Advance(40ms);
+  EXPECT_GT(asked, 0);
+}
+
+TEST_F(PlaybackTest, WithNothingLoadedThatTimersTestFailsAndCountsAsHeld) {
+  Playlist("Day.plt", {Clip("a.mp4")});
+  Output().Timer2.Enabled = true;
+  Advance(20ms);
+  EXPECT_EQ(Aired(), Names{"a.mp4"});
+}

@@ -15,6 +15,33 @@ TEST_F(OptionsTest, OnTheVeryFirstRunEveryBoxIsClearAndTheListIsEmpty) {
   EXPECT_EQ(form.ListPlay.Count(), 0);
 }
 
+TEST_F(OptionsTest, ItsTimersHaveTheirIntervalsAndTheSchedulesWaitForTheirBoxes) {
+  EXPECT_EQ(Timers(Playlists()),
+            (Names{"Timer1 1000 ms on", "Timer2 1000 ms", "Timer3 1000 ms on", "Timer4 1000 ms", "Timer5 500 ms on",
+                   "TimerFind 1000 ms", "TimerDay 100 ms", "TimerGetDuration 100 ms", "TimerFileAd 2000 ms"}));
+}
+
+TEST_F(OptionsTest, EveryBoxComesBackAsItWasLeft) {
+  for (const char* on : {"ClickTOPlay", "TimeON", "DaySchdule", "LastPlay", "PlayLocation", "RendomPlay",
+                         "OneAfterAnother", "QuickPlay"}) {
+    Station next(sim.world, "/station");
+    sim.files.Put("/station/Settings.ini", std::string("[Playlist]\r\n") + on + "=1\r\n");
+    ConnectRoads(next);
+    const auto& form = next.forms.Get<frmPlaylist>();
+    const std::pair<const CheckBox*, std::string> boxes[] = {{&form.chkPreview, "ClickTOPlay"},
+                                                             {&form.chkTime, "TimeON"},
+                                                             {&form.chkDaySchedule, "DaySchdule"},
+                                                             {&form.chkLastPlay, "LastPlay"},
+                                                             {&form.chkFolderPlay, "PlayLocation"},
+                                                             {&form.chkRendomPlay, "RendomPlay"},
+                                                             {&form.chkOneAfterAnother, "OneAfterAnother"},
+                                                             {&form.ChkQuickPlay, "QuickPlay"}};
+    for (const auto& [box, key] : boxes) EXPECT_EQ(box->Value.Get(), key == on ? 1 : 0) << key << " with " << on;
+    EXPECT_EQ(form.TimerFind.Enabled.Get(), form.chkTime.Ticked());
+    EXPECT_EQ(form.TimerDay.Enabled.Get(), form.chkDaySchedule.Ticked());
+  }
+}
+
 TEST_F(OptionsTest, AClickWritesTheBoxAtOnceUnderItsOwnKey) {
   frmPlaylist& form = Playlists();
   const std::pair<CheckBox*, const char*> boxes[] = {{&form.chkPreview, "ClickTOPlay"},
