@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class ListView;
+class Station;
+
+// The ads on disk. An ad is a folder with an adinfo.ini in it; the folder's name is the ad's name and its only
+// identity, and there is no other index: what stands in the folder is the list.
+enum class AdStore { kCrawler, kVideo };
+
+// Whether an ad can have that name: not one that is empty, holds a separator or consists of dots, since its path would
+// lead out of the store.
+bool IsAdName(std::string_view name);
+
+// The path behind a tail inside the ad's folder, such as "\\scorl.jpg"; the folder itself for the empty tail. `name`
+// must be an ad's name.
+std::string AdPath(const Station& station, AdStore store, std::string_view name, std::string_view tail = "");
+
+// Rebuilds the list from the sub folders of `folder`, a row each, by name without regard to case. The row that was
+// selected is selected again by its name, unless a tick has selected another meanwhile: after each row the ticks that
+// are due run, and they find the list half filled. Leaves the shared ad file at the last ad.
+void LoadAdList(Station& station, const std::string& folder, ListView& list);
+void LoadVideoAdList(Station& station, const std::string& folder, ListView& list);
+
+// True when there is such a folder already. Otherwise makes it with an empty adinfo.ini and gives false, also when it
+// cannot be made.
+bool CreateAdFolder(Station& station, const std::string& name);
+bool CreateVideoAdFolder(Station& station, const std::string& name);
+
+// Removes the ad with all its files. What is no ad's name removes nothing.
+void DeleteAdFolder(Station& station, AdStore store, const std::string& name);
