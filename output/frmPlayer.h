@@ -5,6 +5,7 @@
 
 #include "output/CurrentAd.h"
 #include "output/cMonitors.h"
+#include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"

@@ -4,6 +4,7 @@ class Clock;
 class Desktop;
 class Dialogs;
 class Files;
+class FlashEngine;
 class MediaEngine;
 class Monitors;
 class Pictures;
@@ -16,6 +17,7 @@ struct World {
   Scheduler& scheduler;
   Files& files;
   MediaEngine& media;
+  FlashEngine& flash;
   Pictures& pictures;
   Windows& windows;
   Dialogs& dialogs;

@@ -12,6 +12,7 @@
 #include "platform/qt/desktop/QtDialogs.h"
 #include "platform/qt/desktop/QtMonitors.h"
 #include "platform/qt/desktop/QtPictures.h"
+#include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/forms/QtWindows.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/media/PreviewWidget.h"
@@ -44,6 +45,7 @@ struct QtWorld::Parts {
   QtScheduler scheduler;
   PosixFiles files;
   MpvEngine media;
+  QtFlash flash;
   QtPictures pictures;
   PictureLoader loader;
   Scene scene{scheduler, loader};
@@ -55,8 +57,9 @@ struct QtWorld::Parts {
 
 QtWorld::QtWorld(int& argc, char** argv)
     : parts_(std::make_unique<Parts>(argc, argv)), world{parts_->clock,   parts_->scheduler, parts_->files,
-                                                         parts_->media,   parts_->pictures,  parts_->windows,
-                                                         parts_->dialogs, parts_->desktop,   parts_->monitors} {}
+                                                         parts_->media,   parts_->flash,     parts_->pictures,
+                                                         parts_->windows, parts_->dialogs,   parts_->desktop,
+                                                         parts_->monitors} {}
 
 QtWorld::~QtWorld() = default;
 

@@ -2,6 +2,7 @@
 
 #include "platform/World.h"
 #include "platform/sim/SimFiles.h"
+#include "platform/sim/SimFlash.h"
 #include "platform/sim/SimMedia.h"
 #include "platform/sim/SimMonitors.h"
 #include "platform/sim/SimShell.h"
@@ -15,11 +16,12 @@ struct SimWorld {
   SimTime time;
   SimFiles files;
   SimMedia media{time, files, trace};
+  SimFlash flash{time, files, trace};
   SimPictures pictures{files};
   SimWindows windows{trace};
   SimDialogs dialogs{trace};
   SimDesktop desktop{trace};
   SimMonitors monitors;
 
-  World world{time, time, files, media, pictures, windows, dialogs, desktop, monitors};
+  World world{time, time, files, media, flash, pictures, windows, dialogs, desktop, monitors};
 };

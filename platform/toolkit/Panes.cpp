@@ -24,23 +24,3 @@ void PictureBox::LoadPicture(const std::string& path) {
   }
   Picture = LoadedPicture{file, Picture.Get().load + 1};
 }
-
-namespace {
-
-auto MovieSetter(FlashBox& box) {
-  return [&box](const std::string& path) {
-    const Files& files = box.Owner().Outside().files;
-    if (!path.empty() && files.Kind(path) != FileKind::kRegular) {
-      throw Failure("Movie not found: " + path);
-    }
-    box.Movie.Store(path);
-    box.Loaded = LoadedPicture{files.Resolve(path), box.Loaded.Get().load + 1};
-  };
-}
-
-}  // namespace
-
-FlashBox::FlashBox(Form& form, std::string name) : Control(form, std::move(name)), Movie("", MovieSetter(*this)) {}
-
-FlashBox::FlashBox(Control& container, std::string name)
-    : Control(container, std::move(name)), Movie("", MovieSetter(*this)) {}

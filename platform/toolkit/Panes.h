@@ -3,7 +3,6 @@
 #include <string>
 
 #include "platform/toolkit/Control.h"
-#include "platform/toolkit/Settable.h"
 
 // A picture file that a pane shows. Two loads of one path are two pictures: the file may have been written anew.
 struct LoadedPicture {
@@ -41,17 +40,4 @@ class PaneText : public Control {
 
   Property<std::string> Text;
   Property<Colour> ForeColor{kWhite};
-};
-
-// Shows a movie, or a picture as if it were a movie of one frame, over all of its rectangle.
-class FlashBox : public Control {
- public:
-  FlashBox(Form& form, std::string name);
-  FlashBox(Control& container, std::string name);
-  std::string_view Kind() const override { return "FlashBox"; }
-
-  // Loads the file. One that is absent leaves what was shown; the empty text shows nothing.
-  Settable<std::string> Movie;
-  // What is loaded now.
-  Property<LoadedPicture> Loaded;
 };

@@ -209,15 +209,18 @@ TEST_F(OutputWindowTest, AStripLiftedBeyondTheTopIsCutOffThere) {
 TEST_F(OutputWindowTest, APictureThatCannotBeLoadedLeavesTheOldOneOnTheBand) {
   frmPlayer& form = Output();
   form.ViewAd("/ads/header.jpg", "/ads/scorl.jpg", "", "");
+  Advance(1s);
   form.ViewAd("/ads/none.jpg", "/ads/none.jpg", "", "");
   EXPECT_EQ(form.pic.Picture.Get().path, "/ads/scorl.jpg");
-  EXPECT_EQ(form.Flash.Movie.Get(), "/ads/header.jpg");
+  Advance(1s);
+  EXPECT_EQ(sim.flash.Find("frmPlayer.Flash")->Shown(), "/ads/header.jpg");
 }
 
 TEST_F(OutputWindowTest, AnEmptyHeaderLeavesTheBandEmpty) {
   Output().ViewAd("/ads/header.jpg", "/ads/scorl.jpg", "", "");
   Output().ViewAd("", "/ads/scorl.jpg", "", "");
   EXPECT_EQ(Output().Flash.Movie.Get(), "");
+  EXPECT_EQ(sim.flash.Find("frmPlayer.Flash")->Shown(), "");
 }
 
 TEST_F(OutputWindowTest, APictureWrittenAnewUnderItsOldNameIsLoadedAnew) {

@@ -2,13 +2,13 @@
 
 #include <utility>
 
-FlashItem::FlashItem(FlashBox& box, QQuickItem& parent, Scene& scene)
-    : ControlItem(box, parent), path_(QString::fromStdString(box.Loaded.Get().path)), scene_(scene) {
-  Follow(box.Loaded, [this, &box] {
-    path_ = QString::fromStdString(box.Loaded.Get().path);
+FlashItem::FlashItem(FlashBox& box, QQuickItem& parent, Scene& scene) : ControlItem(box, parent), scene_(scene) {
+  const auto load = [this, &box] {
+    path_ = QString::fromStdString(box.File());
     polish();
-  });
-  polish();
+  };
+  Follow(box.Movie, load);
+  load();
 }
 
 void FlashItem::geometryChange(const QRectF& now, const QRectF& before) {
@@ -19,7 +19,8 @@ void FlashItem::geometryChange(const QRectF& now, const QRectF& before) {
 // Once for all the changes of a handler: a layout sets file, width and height one by one.
 void FlashItem::updatePolish() {
   const auto show = [this, wish = ++wish_](SharedPicture picture) {
-    if (wish != wish_ || picture == picture_) return;
+    const bool isBad = !picture && !path_.isEmpty();
+    if (wish != wish_ || isBad || picture == picture_) return;
     picture_ = std::move(picture);
     pictureIsNew_ = true;
     update();

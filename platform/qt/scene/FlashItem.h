@@ -2,9 +2,9 @@
 
 #include "platform/qt/scene/ControlItem.h"
 #include "platform/qt/scene/PictureLoader.h"
-#include "platform/toolkit/Panes.h"
+#include "platform/toolkit/FlashBox.h"
 
-// A flash surface that shows pictures, each over the whole of its rectangle. What is no picture shows nothing.
+// A flash surface that shows pictures, each over the whole of its rectangle. What is no picture leaves what was shown.
 class FlashItem : public ControlItem {
  public:
   FlashItem(FlashBox& box, QQuickItem& parent, Scene& scene);

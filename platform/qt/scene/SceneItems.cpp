@@ -4,6 +4,7 @@
 #include "platform/qt/scene/MediaItem.h"
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/TextItem.h"
+#include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/PlayerControl.h"
 
 namespace {

@@ -39,6 +39,7 @@ class FormTest : public ::testing::Test {
 
   SimWorld sim;
   QtWindows windows{[this](Form& form) { return sim.windows.Create(form); }, Surfaces{}};
-  World world{sim.time, sim.time, sim.files, sim.media, sim.pictures, windows, sim.dialogs, sim.desktop, sim.monitors};
+  World world{sim.time,     sim.time, sim.files,   sim.media,   sim.flash,
+              sim.pictures, windows,  sim.dialogs, sim.desktop, sim.monitors};
   Station station{world, "/station"};
 };

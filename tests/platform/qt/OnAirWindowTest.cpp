@@ -9,10 +9,12 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/QtPictures.h"
+#include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
+#include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
@@ -82,9 +84,10 @@ class OnAirWindowTest : public testing::Test, public Windows {
   Scene scene{scheduler, loader};
   PosixFiles files;
   MpvEngine media{MpvEngine::Decoding::kSoftware};
+  QtFlash flash;
   QtPictures pictures;
   QPointer<QQuickWindow> window;
-  World world{clock, scheduler, files, media, pictures, *this, sim.dialogs, sim.desktop, sim.monitors};
+  World world{clock, scheduler, files, media, flash, pictures, *this, sim.dialogs, sim.desktop, sim.monitors};
   Station station{world, test_media::PathOf("station")};
   frmProbe& form = station.forms.Get<frmProbe>();
 };
@@ -197,7 +200,10 @@ TEST_F(OnAirWindowTest, AFlashSurfaceShowsAPictureOverAllOfItsRectangle) {
   EXPECT_TRUE(Becomes(50, 9, Qt::green));
   form.Movie.Width = 450;
   EXPECT_TRUE(Becomes(60, 5, Qt::green));
-  form.Movie.Movie = test_media::Text("movie.swf", "FWS");
+  form.Movie.Movie = test_media::Text("damaged.swf", "FWS");
+  Pass(100ms);
+  EXPECT_TRUE(Becomes(50, 5, Qt::green)) << "what cannot be shown leaves what was";
+  form.Movie.Movie = "";
   EXPECT_TRUE(Becomes(50, 5, Qt::black));
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 #include "platform/Pictures.h"
 #include "platform/toolkit/Failure.h"
+#include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
@@ -87,7 +88,7 @@ TYPED_TEST(SpellingContractTest, ThePicturesOfAllPanesAreLoadedUnderTheirVeryNam
     EXPECT_EQ(this->form.Pane.Picture.Get().path, picture);
     EXPECT_EQ(this->form.Pane.Width, 40 * kTwipsPerPixel);
     this->form.Flash.Movie = spelling;
-    EXPECT_EQ(this->form.Flash.Loaded.Get().path, picture);
+    EXPECT_EQ(this->form.Flash.File(), picture);
     EXPECT_EQ(this->form.Flash.Movie.Get(), spelling);
   }
 }

@@ -10,9 +10,11 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/QtPictures.h"
+#include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/sim/SimWorld.h"
 #include "tests/platform/qt/TestMedia.h"
+#include "tests/platform/swf/MovieWriter.h"
 
 // The two worlds behind one face, for what both must do alike.
 
@@ -33,6 +35,12 @@ class VirtualWorld {
     sim.pictures.sizes["/" + name] = size;
     return "/" + name;
   }
+  // A movie of that many frames, 25 a second.
+  std::string Movie(const std::string& name, int frames) {
+    sim.files.Put("/" + name, "movie");
+    sim.flash.SetMovie("/" + name, frames);
+    return "/" + name;
+  }
   static std::string Absent() { return "/absent.mp4"; }
 
   SimWorld sim;
@@ -49,6 +57,11 @@ class RealWorld {
   static std::string Picture(const std::string& name, PixelSize size) {
     return test_media::Picture(name, Qt::red, {size.width, size.height});
   }
+  static std::string Movie(const std::string& name, int frames) {
+    std::string tags;
+    for (int i = 0; i < frames; ++i) tags += test_movies::Show();
+    return test_media::Text(name, test_movies::Plain(tags + test_movies::End(), {.frameCount = frames}));
+  }
   static std::string Absent() { return test_media::PathOf("absent.mp4"); }
 
  private:
@@ -56,6 +69,7 @@ class RealWorld {
   QtScheduler scheduler_;
   PosixFiles files_;
   MpvEngine media_{MpvEngine::Decoding::kSoftware};
+  QtFlash flash_;
   QtPictures pictures_;
   SimWorld rest_;
 
@@ -63,8 +77,8 @@ class RealWorld {
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
   // Time, disk, media and pictures are real.
-  World world{clock_,        scheduler_,    files_,        media_,        pictures_,
-              rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors};
+  World world{clock_,    scheduler_,    files_,        media_,        flash_,
+              pictures_, rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors};
 };
 
 using Worlds = testing::Types<VirtualWorld, RealWorld>;
