@@ -14,28 +14,23 @@
 #include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/forms/QtWindows.h"
+#include "platform/qt/forms/look/Look.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/media/PreviewWidget.h"
 #include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/scene/Scene.h"
 
-namespace {
-
-// The layouts of the operator's forms are made for this look; the desktop's own might not fit their measures.
-constexpr char kStyle[] = "Fusion";
-
-}  // namespace
-
 struct QtWorld::Parts {
   Parts(int& argc, char** argv)
       : graphics(ChooseGraphics()),
-        application((QApplication::setStyle(kStyle), argc), argv),
+        application(argc, argv),
         media(graphics == Graphics::kSoftware ? MpvEngine::Decoding::kSoftware
                                               : MpvEngine::Decoding::kHardwareWhereThereIs),
         windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}) {
     application.setApplicationName("corvanta");
     application.setQuitOnLastWindowClosed(false);
+    WearLook(application);
   }
 
   Graphics graphics;  // chosen before there is an application

@@ -6,6 +6,7 @@
 
 #include "platform/qt/forms/NameModel.h"
 #include "platform/qt/forms/RowModel.h"
+#include "platform/qt/forms/look/Icons.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
@@ -57,7 +58,7 @@ class Leading {
 
 std::vector<QIcon> Icons(const QWidget& widget) {
   std::vector<QIcon> icons;
-  for (const QString& file : widget.property("rowIcons").toStringList()) icons.emplace_back(file);
+  for (const QString& name : widget.property("rowIcons").toStringList()) icons.push_back(KeptIcon(name));
   return icons;
 }
 

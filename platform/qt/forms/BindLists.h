@@ -12,5 +12,5 @@ struct Surfaces;
 void Bind(Joint& joint, FileListBox& control, NameView& widget, const Surfaces& surfaces);
 
 // The layout gives the view its column titles, sample texts for the widths, and the image list, as the string list
-// properties `columnTitles`, `columnSamples` and `rowIcons`.
+// properties `columnTitles`, `columnSamples` and `rowIcons` (names of kept icons).
 void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces& surfaces);

@@ -104,7 +104,8 @@ void Binder::AddStrangers(std::vector<std::string>& faults) const {
     const QString name = widget->objectName();
     const bool innards = name.startsWith("qt_") || widget->parentWidget()->inherits("QTabBar");
     if (const auto* menu = qobject_cast<const QMenu*>(widget)) {
-      AddStrangers(*menu, faults);
+      // A nameless one is the bar's own, for what does not fit.
+      if (!name.isEmpty()) AddStrangers(*menu, faults);
       continue;
     }
     if (name.isEmpty() || name.startsWith("lay") || innards || bound.contains(widget)) continue;

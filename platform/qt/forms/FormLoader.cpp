@@ -7,6 +7,7 @@
 #include "platform/qt/forms/NameView.h"
 #include "platform/qt/forms/RowView.h"
 #include "platform/qt/forms/SeekSlider.h"
+#include "platform/qt/forms/look/PathField.h"
 
 namespace {
 
@@ -23,6 +24,7 @@ class Loader : public QUiLoader {
   static QWidget* Own(const QString& className, QWidget* parent) {
     if (className == "QTreeView") return new RowView(parent);
     if (className == "QListView") return new NameView(parent);
+    if (className == "QLineEdit") return new PathField(parent);
     if (className == "QSlider") return new SeekSlider(parent);
     return nullptr;
   }

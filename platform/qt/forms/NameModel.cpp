@@ -1,6 +1,7 @@
 #include "platform/qt/forms/NameModel.h"
 
 #include "platform/qt/forms/Texts.h"
+#include "platform/qt/forms/look/Icons.h"
 
 void NameModel::Refill() {
   beginResetModel();
@@ -17,7 +18,8 @@ int NameModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant NameModel::data(const QModelIndex& index, int role) const {
-  const bool shown = role == Qt::DisplayRole || role == Qt::ToolTipRole;
-  if (!shown || control_ == nullptr || !index.isValid() || index.row() >= control_->ListCount()) return {};
-  return Shown(control_->List(index.row()));
+  if (control_ == nullptr || !index.isValid() || index.row() >= control_->ListCount()) return {};
+  const QString name = Shown(control_->List(index.row()));
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return name;
+  return role == Qt::DecorationRole ? QVariant(FileIcon(name)) : QVariant();
 }

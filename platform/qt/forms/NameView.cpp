@@ -3,10 +3,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "platform/qt/forms/look/EmptyTexts.h"
+#include "platform/qt/forms/look/PathField.h"
+
 NameView::NameView(QWidget* parent) : QListView(parent) {
   setUniformItemSizes(true);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
+  setItemDelegate(new PathDelegate(this));
 }
 
 void NameView::mousePressEvent(QMouseEvent* event) {
@@ -35,6 +39,11 @@ void NameView::mouseReleaseEvent(QMouseEvent* event) {
   } else {
     emit strayed();
   }
+}
+
+void NameView::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  DrawEmptyText(*this);
 }
 
 void NameView::focusInEvent(QFocusEvent* event) {

@@ -14,6 +14,7 @@
 #include "platform/qt/forms/TrayBinding.h"
 #include "platform/qt/forms/WindowDrag.h"
 #include "platform/qt/forms/WindowPlace.h"
+#include "platform/qt/forms/look/Look.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
@@ -24,6 +25,7 @@ constexpr std::chrono::milliseconds kWindowSettles(100), kScreensSettle(1000);
 QWidget* NewWindow(const Form& form) {
   std::unique_ptr<QWidget> window = LoadLayout(LayoutFile(Shown(form.Name())));
   if (!window) window = std::make_unique<QWidget>();
+  Dress(*window, Shown(form.Name()));
   Qt::WindowFlags flags = Qt::Window;
   if (window->property("frameless").toBool()) flags |= Qt::FramelessWindowHint;
   if (window->property(kNoMinimize).toBool()) {

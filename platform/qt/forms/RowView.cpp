@@ -4,12 +4,18 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "platform/qt/forms/look/EmptyTexts.h"
+#include "platform/qt/forms/look/PathField.h"
+
 RowView::RowView(QWidget* parent) : QTreeView(parent) {
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);
   setSelectionBehavior(SelectRows);
   setEditTriggers(NoEditTriggers);
+  const int icon = style()->pixelMetric(QStyle::PM_ListViewIconSize);
+  setIconSize(QSize(icon, icon));
+  setItemDelegate(new PathDelegate(this));
   setExpandsOnDoubleClick(false);
   header()->setSectionsMovable(false);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -19,7 +25,7 @@ void RowView::SizeColumns() {
   const QStringList samples = property("columnSamples").toStringList();
   const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + fontMetrics().averageCharWidth());
   for (int column = 0; column < samples.size(); ++column) {
-    const int icon = column == 0 ? style()->pixelMetric(QStyle::PM_SmallIconSize) + margins : 0;
+    const int icon = column == 0 ? iconSize().width() + margins : 0;
     setColumnWidth(column, fontMetrics().horizontalAdvance(samples[column]) + margins + icon);
   }
 }
@@ -51,6 +57,11 @@ void RowView::mouseReleaseEvent(QMouseEvent* event) {
   const QModelIndex released = indexAt(event->position().toPoint());
   if (released.row() != pressed_.row()) return;
   emit clickedRow(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier) ? -1 : released.row());
+}
+
+void RowView::paintEvent(QPaintEvent* event) {
+  QTreeView::paintEvent(event);
+  DrawEmptyText(*this);
 }
 
 void RowView::focusInEvent(QFocusEvent* event) {

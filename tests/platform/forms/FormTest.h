@@ -6,12 +6,14 @@
 #include <QTest>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/qt/forms/OperatorWindow.h"
 #include "platform/qt/forms/QtWindows.h"
 #include "platform/sim/SimWorld.h"
 #include "platform/toolkit/Form.h"
 #include "settings/Station.h"
+#include "tests/platform/forms/AllForms.h"
 
 // A station in the virtual world whose operator forms are real widgets.
 class FormTest : public ::testing::Test {
@@ -23,6 +25,13 @@ class FormTest : public ::testing::Test {
     return station.forms.Get<F>();
   }
   static OperatorWindow& WindowOf(Form& form) { return dynamic_cast<OperatorWindow&>(*form.Window()); }
+
+  // Every operator's form that there is, loaded.
+  std::vector<Form*> EachForm() {
+    std::vector<Form*> forms;
+    for (const FormRow& row : AllForms()) forms.push_back(&row.get(station.forms));
+    return forms;
+  }
 
   // The widget that shows a control.
   template <class W>

@@ -1,21 +1,27 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
 #include <QMap>
 
 #include "platform/qt/forms/FormLoader.h"
+#include "platform/qt/forms/Texts.h"
 #include "playlist/frmPlaylist.h"
-#include "shell/frmLoad.h"
-#include "shell/frmMid.h"
 #include "tests/platform/forms/FormTest.h"
 
 namespace {
 
 using LayoutsTest = FormTest;
 
+TEST_F(LayoutsTest, EveryLayoutAmongTheResourcesIsTested) {
+  QStringList tested;
+  for (const FormRow& row : AllForms()) tested.append(QString(row.name) + ".ui");
+  tested.sort();
+  EXPECT_EQ(QDir(":/forms").entryList(QDir::Files, QDir::Name), tested);
+}
+
 TEST_F(LayoutsTest, EveryControlHasItsWidgetOfTheRightClassAndNoWidgetIsAStranger) {
-  for (Form* form : {static_cast<Form*>(&Get<frmLoad>()), static_cast<Form*>(&Get<frmMid>()),
-                     static_cast<Form*>(&Get<frmPlaylist>())}) {
+  for (Form* form : EachForm()) {
     for (const std::string& fault : WindowOf(*form).Joined().Faults()) {
       ADD_FAILURE() << form->Name() << ": " << fault;
     }
@@ -40,7 +46,7 @@ TEST_F(LayoutsTest, CaptionsAreTheStationsTextsLetterForLetter) {
 }
 
 TEST_F(LayoutsTest, NoTwoControlsShareAKey) {
-  for (Form* form : {static_cast<Form*>(&Get<frmMid>()), static_cast<Form*>(&Get<frmPlaylist>())}) {
+  for (Form* form : EachForm()) {
     QMap<QString, QString> taken;
     for (const QAbstractButton* button : WindowOf(*form).Widget().findChildren<QAbstractButton*>()) {
       const QString key = button->shortcut().toString();
@@ -52,12 +58,14 @@ TEST_F(LayoutsTest, NoTwoControlsShareAKey) {
 }
 
 TEST_F(LayoutsTest, EveryFieldThatCanBeReachedByKeyHasANameForThoseWhoCannotSee) {
-  for (QWidget* widget : WindowOf(Get<frmPlaylist>()).Widget().findChildren<QWidget*>()) {
-    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
-    if (widget->objectName().isEmpty() || widget->inherits("QTabBar") || widget->inherits("QTabWidget")) continue;
-    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-    ASSERT_NE(spoken, nullptr);
-    EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << qPrintable(widget->objectName());
+  for (Form* form : EachForm()) {
+    for (QWidget* widget : WindowOf(*form).Widget().findChildren<QWidget*>()) {
+      if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
+      if (widget->objectName().isEmpty() || widget->inherits("QTabBar") || widget->inherits("QTabWidget")) continue;
+      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(spoken, nullptr);
+      EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << form->Name() << " " << Stored(widget->objectName());
+    }
   }
 }
 

@@ -1,0 +1,44 @@
+#include "platform/qt/forms/look/EmptyTexts.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/qt/forms/look/Look.h"
+
+namespace {
+
+constexpr EmptyTextRow kTexts[] = {
+    {"frmPlaylist", "FilePlaylist", "Press \"Add new playlist\" to make the first one."},
+    {"frmPlaylist", "ListPlay", "Choose a playlist, then select a file below and press \"Add\"."},
+    {"frmPlaylist", "FileList", "Press \"Browse\" and choose a folder with videos."},
+    {"frmPlaylist", "FileQuick", "Press \"Load folder\" and choose a folder with videos."},
+    {"frmPlaylist", "ListSchedule", "Choose date, time and playlist, then press \"Add schedule\"."},
+    {"frmPlaylist", "ListTime", "Not in use."},
+};
+
+constexpr char kProperty[] = "whenEmpty";
+
+}  // namespace
+
+std::span<const EmptyTextRow> EmptyTexts() { return kTexts; }
+
+QString EmptyText(const QString& form, const QString& list) {
+  const auto row = std::ranges::find_if(
+      kTexts, [&](const EmptyTextRow& candidate) { return form == candidate.form && list == candidate.list; });
+  return row == std::end(kTexts) ? QString() : QString(row->text);
+}
+
+void SetEmptyText(QAbstractItemView& list, const QString& text) {
+  list.setProperty(kProperty, text);
+  list.setAccessibleDescription(text);
+}
+
+void DrawEmptyText(const QAbstractItemView& list) {
+  if (list.model() != nullptr && list.model()->rowCount(list.rootIndex()) > 0) return;
+  const QString text = list.property(kProperty).toString();
+  if (text.isEmpty()) return;
+  QPainter painter(list.viewport());
+  painter.setPen(list.palette().color(QPalette::PlaceholderText));
+  const QRect room = list.viewport()->rect().adjusted(kSpaceBetween, 0, -kSpaceBetween, 0);
+  painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text);
+}
