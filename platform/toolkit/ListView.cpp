@@ -72,11 +72,9 @@ void ListView::SetSelected(int index, bool selected) {
 }
 
 void ListView::SelectRows(const std::vector<int>& rows, int current) {
+  for (const int index : rows) Check(index, Count());
   for (ListRow& row : rows_) row.selected = false;
-  for (const int index : rows) {
-    Check(index, Count());
-    rows_[static_cast<std::size_t>(index) - 1].selected = true;
-  }
+  for (const int index : rows) rows_[static_cast<std::size_t>(index) - 1].selected = true;
   selectedItem_ = current;
   Tell(ListChange::What::kSelection);
 }
