@@ -86,6 +86,24 @@ TEST_F(LookTest, EveryTextOfEveryMenuCanBeReadAlsoWhereItIsDisabled) {
   EXPECT_GT(menus, 0);
 }
 
+TEST_F(LookTest, AnEntryOfAMenuThatIsSwitchedOnShowsItInTheAccentAndOneThatIsOffDoesNot) {
+  QMenu menu;
+  QAction& entry = *menu.addAction("Show logo");
+  entry.setCheckable(true);
+  menu.resize(menu.sizeHint());
+  const auto accented = [&menu] {
+    const QImage picture = PictureOf(menu);
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) count += picture.pixelColor(x, y) == ColourOf(Tone::kAccent);
+    }
+    return count;
+  };
+  EXPECT_EQ(accented(), 0);
+  entry.setChecked(true);
+  EXPECT_GT(accented(), 20);
+}
+
 TEST_F(LookTest, RowsCanBeReadSelectedOrNotAndInAWindowThatIsNotActive) {
   auto& form = Get<SampleForm>();
   sim.files.Put("/clips/a.avi", "");

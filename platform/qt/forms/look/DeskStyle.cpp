@@ -1,5 +1,6 @@
 #include "platform/qt/forms/look/DeskStyle.h"
 
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
@@ -25,6 +26,14 @@ void DrawEdge(const QStyleOption& option, QPainter& painter) {
                                                                          : Tone::kRaised));
   painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
   painter.restore();
+}
+
+// The tick of a menu's entry, as the boxes of the forms have theirs: what is switched on is to be seen at a glance.
+void DrawTick(const QStyleOption& option, QPainter& painter) {
+  const bool on = option.state.testFlag(QStyle::State_On);
+  painter.fillRect(option.rect, ColourOf(on ? Tone::kAccent : Tone::kField));
+  DrawEdge(option, painter);
+  if (on) KeptIcon("dialog-ok").paint(&painter, option.rect);
 }
 
 }  // namespace
@@ -54,11 +63,16 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
 int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* returned) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 1;
+  if (hint == SH_EtchDisabledText) return 0;  // a shadow blurs a text that is dim already
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
+  if (element == PE_IndicatorCheckBox && qobject_cast<const QMenu*>(widget) != nullptr) {
+    DrawTick(*option, *painter);
+    return;
+  }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   if (element == PE_FrameLineEdit || element == PE_Frame) DrawEdge(*option, *painter);
 }
