@@ -5,7 +5,7 @@
 #include "settings/Station.h"
 
 void ConnectRoads(Station& station) {
-  Forms& forms = station.forms;
+  StationForms& forms = station.forms;
 
   // frmPlayer -> frmPlaylist
   forms.WhenCreated<frmPlayer>([&forms](frmPlayer& output) {

@@ -10,6 +10,27 @@
 #include "settings/DataFolder.h"
 #include "settings/Stores.h"
 
+class Station;
+
+// The title of the program, and of every box that a rule gives no other.
+inline constexpr char kStandardTitle[] = "Corvanta 6.0";
+
+// The forms of one station: each is constructed with it.
+class StationForms : public Forms {
+ public:
+  StationForms(World& world, Station& station) : Forms(world, kStandardTitle), station_(station) {}
+
+  // The one instance of the form. One that is not loaded is created, hidden, and its load runs; a reference during its
+  // own load gives the instance that is being loaded.
+  template <class F>
+  F& Get() {
+    return FindOrAdopt<F>([this] { return std::make_unique<F>(station_); });
+  }
+
+ private:
+  Station& station_;
+};
+
 // One running station: the world around it, its data folder with the shared files, and its forms. Every form is given
 // it at construction.
 class Station {
@@ -34,5 +55,5 @@ class Station {
   std::map<std::type_index, std::shared_ptr<void>> shared_;
 
  public:
-  Forms forms;  // last: the forms go before all that they use
+  StationForms forms;  // last: the forms go before all that they use
 };

@@ -33,6 +33,8 @@ void Form::PressMouse(MouseButton button) {
   Handle([this, button] { MouseDown.Raise(button); });
 }
 
+Answer Form::MsgBox(const std::string& text, Buttons buttons) { return MsgBox(text, buttons, forms_.StandardTitle()); }
+
 Answer Form::MsgBox(const std::string& text, Buttons buttons, const std::string& title) {
   const Counted standing(handlersRunning_);
   return Outside().dialogs.MsgBox(text, title, buttons);

@@ -12,9 +12,6 @@
 
 class FormWindow;
 
-// The title of every box that a rule gives no other.
-inline constexpr char kStandardTitle[] = "Corvanta 6.0";
-
 // One window of the system with its controls: an observable object that draws nothing itself. There is at most one
 // instance of each form; see Forms.
 class Form {
@@ -47,8 +44,10 @@ class Form {
   void Close();
   void PressMouse(MouseButton button);
 
-  // Stands before the operator until answered; timers tick on meanwhile.
-  Answer MsgBox(const std::string& text, Buttons buttons = Buttons::kOk, const std::string& title = kStandardTitle);
+  // Stands before the operator until answered; timers tick on meanwhile. Without a title of its own it has the standard
+  // one.
+  Answer MsgBox(const std::string& text, Buttons buttons = Buttons::kOk);
+  Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title);
   std::string InputBox(const std::string& prompt, const std::string& title);
   std::string BrowseFolder(const std::string& title, const std::string& start);
 

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "platform/Windows.h"
 #include "platform/toolkit/Form.h"
 
-Forms::Forms(World& world, Station& station) : world_(world), station_(&station) {}
+Forms::Forms(World& world, std::string standardTitle) : world_(world), standardTitle_(std::move(standardTitle)) {}
 
 Forms::~Forms() {
   // Last loaded, first gone: a form may refer to those that were there before it.

@@ -11,26 +11,16 @@
 #include "platform/World.h"
 
 class Form;
-class Station;  // what every form is constructed with
 
-// The registry of the forms: one shared instance of each, made at the first reference to it.
+// The registry of the forms: one shared instance of each. Who makes the forms, out of what, is for a class on top of it
+// to say.
 class Forms {
  public:
-  Forms(World& world, Station& station);
+  // `standardTitle` is the title of every box that a rule gives no other.
+  Forms(World& world, std::string standardTitle);
   ~Forms();
   Forms(const Forms&) = delete;
   Forms& operator=(const Forms&) = delete;
-
-  // The one instance of the form. One that is not loaded is created, hidden, and its load runs; a reference during its
-  // own load gives the instance that is being loaded.
-  template <class F>
-  F& Get() {
-    if (Form* loaded = Find(typeid(F))) return static_cast<F&>(*loaded);
-    auto created = std::make_unique<F>(*station_);
-    F& form = *created;
-    Adopt(typeid(F), std::move(created));
-    return form;
-  }
 
   // Whether the form is loaded; loads nothing.
   template <class F>
@@ -58,6 +48,19 @@ class Forms {
   void Dispatch(Form& form, const std::function<void()>& handler);
 
   World& Outside() const { return world_; }
+  const std::string& StandardTitle() const { return standardTitle_; }
+
+ protected:
+  // The one instance of the form. One that is not loaded is created by `make`, hidden, and its load runs; a reference
+  // during its own load gives the instance that is being loaded.
+  template <class F, class Make>
+  F& FindOrAdopt(Make make) {
+    if (Form* loaded = Find(typeid(F))) return static_cast<F&>(*loaded);
+    std::unique_ptr<F> created = make();
+    F& form = *created;
+    Adopt(typeid(F), std::move(created));
+    return form;
+  }
 
  private:
   struct Entry {
@@ -76,7 +79,7 @@ class Forms {
   void DestroyLeaving();
 
   World& world_;
-  Station* station_;
+  std::string standardTitle_;
   std::vector<Entry> loaded_;  // in the order of loading
   std::vector<Leaving> leaving_;
   std::map<std::type_index, std::vector<std::function<void(Form&)>>> hooks_;

@@ -33,6 +33,15 @@ class Checks(unittest.TestCase):
         self.assert_silent(floors.check, {"shell/a.cpp": '#include "playlist/b.h"\n#include <string>\n'})
         self.assert_complains(floors.check, {"output/a.cpp": '#include "playlist/b.h"\n'}, "output lies below playlist")
 
+    def test_a_name_declared_ahead_may_not_be_one_from_above(self):
+        station = {"settings/Station.h": "class Station : public Base {\n};\nenum class Mode { kOne };\n"}
+        below = {"platform/toolkit/Forms.h": "class Station;\n"}
+        self.assert_complains(floors.check, {**station, **below}, "Forms.h declares Station: platform lies below")
+        self.assert_complains(floors.check, {**station, "platform/a.h": "enum class Mode : int;\n"}, "declares Mode")
+        self.assert_silent(floors.check, {**station, "output/frmX.h": "class Station;\nclass Elsewhere;\n"})
+        real = {"platform/qt/QtWorld.h": "class QtWorld {\n};\n", "shell/frmX.h": "class QtWorld;\n"}
+        self.assert_complains(floors.check, real, "only app/ chooses a world")
+
     def test_forms_of_one_floor_are_strangers(self):
         self.assert_complains(floors.check, {"ads/a.h": '#include "playlist/b.h"\n'}, "do not know each other")
         self.assert_silent(floors.check, {"ads/a.h": '#include "ads/b.h"\n', "playlist/c.h": '#include "settings/d.h"\n'})

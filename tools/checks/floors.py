@@ -1,4 +1,4 @@
-"""Includes run down the floors, and only platform/qt and platform/posix see the real world."""
+"""Includes and names run down the floors, and only platform/qt and platform/posix see the real world."""
 
 import re
 
@@ -21,18 +21,35 @@ FLOOR_OF_STRANGERS = 4
 PACKERS = ("zlib.h", "lzma.h")
 REAL_WORLDS = ("platform/qt/", "platform/posix/", "platform/sim/")
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
+TYPE = r"^[ \t]*(?:template[^;{]*>[ \t\n]*)?(?:enum[ \t]+)?(?:class|struct)[ \t]+(\w+)"
+DECLARATION = re.compile(TYPE + r"(?:[ \t]*:[ \t]*[\w:]+)?;", re.MULTILINE)
+DEFINITION = re.compile(TYPE + r"[^;{}()]*\{", re.MULTILINE)
 
 
 def check(tree):
+    sources = {path: tree.read(path) for path in tree.with_suffix(".h", ".cpp") if path.parts[0] in FLOORS}
+    homes = homes_of_types(sources)
     problems = []
-    for path in tree.with_suffix(".h", ".cpp"):
-        if path.parts[0] not in FLOORS:
-            continue
-        for own, system in INCLUDE.findall(tree.read(path)):
+    for path, text in sources.items():
+        for own, system in INCLUDE.findall(text):
             problem = upwards(path, own) if own else outside(path, system)
             if problem:
                 problems.append(f"{path} includes {own or system}: {problem}")
+        for name in DECLARATION.findall(text):
+            complaints = [upwards(path, home) for home in homes.get(name, ())]
+            if complaints and all(complaints):
+                problems.append(f"{path} declares {name}: {complaints[0]}")
     return problems
+
+
+def homes_of_types(sources):
+    """The headers that define a type, by its name: a name that is declared ahead is known, as if by an include."""
+    homes = {}
+    for path, text in sources.items():
+        if path.suffix == ".h":
+            for name in DEFINITION.findall(text):
+                homes.setdefault(name, []).append(path.as_posix())
+    return homes
 
 
 def upwards(path, include):
