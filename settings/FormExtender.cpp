@@ -66,7 +66,8 @@ void FormExtender::Note() {
   if (seen_ == now) return;
   seen_ = now;
   StopWaiting();
-  waiting_ = Owner().Outside().scheduler.Start(kRest, TickPhase::kFromStart, [this] { Write(); });
+  waiting_ =
+      Owner().Outside().scheduler.Start(kRest, TickPhase::kFromStart, [this] { Handle("Rest", [this] { Write(); }); });
 }
 
 void FormExtender::Write() {

@@ -36,7 +36,8 @@ void frmMid::Load() {
   RegisterRunAtStart();
   Tray.TipText = "Corvanta 5.0";  // older than the title. Meant so.
   for (const auto& key : kHotKeys) {
-    Outside().desktop.RegisterHotKey(key.id, key.letter, [this, id = key.id] { Handle([this, id] { OnHotKey(id); }); });
+    Outside().desktop.RegisterHotKey(
+        key.id, key.letter, [this, id = key.id] { Handle({.event = "HotKey"}, [this, id] { OnHotKey(id); }); });
   }
   Outside().desktop.SetScreenSaverActive(0);
   Caption = kStandardTitle;

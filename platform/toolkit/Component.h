@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class Form;
 
@@ -20,8 +21,8 @@ class Component {
   virtual void Retire() {}
 
  protected:
-  // Runs a handler of this component as the toolkit dispatches it; see Form::Handle.
-  void Handle(const std::function<void()>& handler);
+  // Runs the handlers of an event of this component as the toolkit dispatches them; see Form::Handle.
+  void Handle(std::string_view event, const std::function<void()>& handler);
 
  private:
   Form& form_;

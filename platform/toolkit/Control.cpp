@@ -4,7 +4,9 @@
 
 Component::Component(Form& form, std::string name) : form_(form), name_(std::move(name)) { form.Add(*this); }
 
-void Component::Handle(const std::function<void()>& handler) { form_.Handle(handler); }
+void Component::Handle(std::string_view event, const std::function<void()>& handler) {
+  form_.Handle({.component = name_, .event = event}, handler);
+}
 
 Control::Control(Form& form, std::string name) : Component(form, std::move(name)) { form.AddControl(*this); }
 
@@ -16,5 +18,5 @@ Control::Control(Control& container, std::string name)
 void Control::SetFocus() { Owner().Focus(*this); }
 
 void Control::PressMouse(MouseButton button) {
-  Handle([this, button] { MouseDown.Raise(button); });
+  Handle("MouseDown", [this, button] { MouseDown.Raise(button); });
 }

@@ -6,5 +6,5 @@ DatePicker::DatePicker(Form& form, std::string name)
     : Control(form, std::move(name)), Value(DateTime{}, [this](const DateTime& value) {
         if (value == Value.Get()) return;
         Value.Store(value);
-        Handle([this] { Change.Raise(); });
+        Handle("Change", [this] { Change.Raise(); });
       }) {}

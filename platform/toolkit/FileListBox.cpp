@@ -23,7 +23,7 @@ FileListBox::FileListBox(Form& form, std::string name)
       ListIndex(-1, [this](const int& index) {
         if (index != -1) List(index);
         ListIndex.Store(index);
-        if (index != -1) Handle([this] { Click.Raise(); });
+        if (index != -1) Handle("Click", [this] { Click.Raise(); });
       }) {}
 
 void FileListBox::Refresh() {
@@ -50,5 +50,5 @@ std::string FileListBox::FileName() const { return ListIndex < 0 ? "" : List(Lis
 std::string FileListBox::FilePath() const { return (Path.Get() == "/" ? "" : Path.Get()) + "/" + FileName(); }
 
 void FileListBox::Pick(int index) {
-  Handle([this, index] { ListIndex = index; });
+  Handle("Click", [this, index] { ListIndex = index; });
 }

@@ -64,7 +64,7 @@ void FlashBox::FrameShown(int frame) {
   latest_ = frame;
   shown_ = tick_ == 0 ? frame : std::max(shown_, frame);
   if (tick_ == 0) AwaitTick();
-  Handle([this, frame] { FrameShow.Raise(frame); });
+  Handle("FrameShow", [this, frame] { FrameShow.Raise(frame); });
 }
 
 // A timer that is started now ticks behind those that are running already.

@@ -26,11 +26,11 @@ void Form::Focus(const Control& control) {
 }
 
 void Form::Close() {
-  Handle([this] { forms_.Unload(*this); });
+  Handle({.event = "Close"}, [this] { forms_.Unload(*this); });
 }
 
 void Form::PressMouse(MouseButton button) {
-  Handle([this, button] { MouseDown.Raise(button); });
+  Handle({.event = "MouseDown"}, [this, button] { MouseDown.Raise(button); });
 }
 
 Answer Form::MsgBox(const std::string& text, Buttons buttons) { return MsgBox(text, buttons, forms_.StandardTitle()); }
@@ -50,8 +50,8 @@ std::string Form::BrowseFolder(const std::string& title, const std::string& star
   return Outside().dialogs.BrowseFolder(title, Outside().files.Resolve(start));
 }
 
-void Form::Handle(const std::function<void()>& handler) {
-  if (!retired_) forms_.Dispatch(*this, handler);
+void Form::Handle(const HandlerName& name, const std::function<void()>& handler) {
+  if (!retired_) forms_.Dispatch(*this, name, handler);
 }
 
 void Form::Retire() {

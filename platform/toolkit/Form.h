@@ -52,8 +52,9 @@ class Form {
   std::string BrowseFolder(const std::string& title, const std::string& start);
 
   // Runs a handler as every tick and operator's event is run: a failure that nothing skipped ends the handler and
-  // shows one message box, and the station goes on. Nothing happens once the form is unloaded.
-  void Handle(const std::function<void()>& handler);
+  // shows one message box; what nobody foresaw (memory that is out, a fault of ours) ends it too, and is said on
+  // standard error under the handler's name. The station goes on. Nothing happens once the form is unloaded.
+  void Handle(const HandlerName& name, const std::function<void()>& handler);
 
   // The window; there is none while the form is constructed and after it is unloaded.
   FormWindow* Window() const { return window_.get(); }

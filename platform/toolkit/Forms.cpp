@@ -5,9 +5,29 @@
 #include <utility>
 
 #include "platform/Windows.h"
+#include "platform/toolkit/Failure.h"
 #include "platform/toolkit/Form.h"
 
-Forms::Forms(World& world, std::string standardTitle) : world_(world), standardTitle_(std::move(standardTitle)) {}
+namespace {
+
+// The words of a box while it stands.
+class Standing {
+ public:
+  Standing(std::set<std::string>& all, const std::string& words) : all_(all), added_(all.insert(words)) {}
+  ~Standing() {
+    if (IsFirst()) all_.erase(added_.first);
+  }
+  bool IsFirst() const { return added_.second; }
+
+ private:
+  std::set<std::string>& all_;
+  std::pair<std::set<std::string>::iterator, bool> added_;
+};
+
+}  // namespace
+
+Forms::Forms(World& world, std::string standardTitle)
+    : world_(world), standardTitle_(std::move(standardTitle)), faults_(world.clock) {}
 
 Forms::~Forms() {
   // Last loaded, first gone: a form may refer to those that were there before it.
@@ -43,36 +63,54 @@ bool Forms::Unload(Form& form) {
   return true;
 }
 
-void Forms::Dispatch(Form& form, const std::function<void()>& handler) {
+void Forms::Dispatch(Form& form, const HandlerName& name, const std::function<void()>& handler) {
   ++depth_;
   ++form.handlersRunning_;
-  try {
-    handler();
-  } catch (const std::exception& failure) {
-    Report(form, failure.what());
-  }
+  Run(form, name, handler);
   --form.handlersRunning_;
   --depth_;
   DestroyLeaving();
 }
 
+void Forms::Run(Form& form, const HandlerName& name, const std::function<void()>& handler) noexcept {
+  try {
+    try {
+      handler();
+    } catch (const Failure& failure) {
+      Report(form, failure.what());
+    }
+  } catch (const std::exception& fault) {
+    Tell(form, name, fault.what());
+  } catch (...) {
+    Tell(form, name, "something that is no exception was thrown");
+  }
+}
+
+void Forms::Tell(const Form& form, const HandlerName& name, std::string_view fault) noexcept {
+  try {
+    std::string where = form.Name();
+    if (!name.component.empty()) where.append(".").append(name.component);
+    where.append("_").append(name.event);
+    faults_.Tell(where, fault);
+  } catch (const std::exception&) {
+    TellFault(form.Name(), fault);  // there is no memory even for the handler's name
+  }
+}
+
 // A tick that fails every second on an unattended station must not stack its boxes up for ever: the same words stand
 // once.
 void Forms::Report(Form& form, const std::string& failure) {
-  if (!reportsStanding_.insert(failure).second) return;
-  form.MsgBox(failure);
-  reportsStanding_.erase(failure);
+  const Standing standing(reportsStanding_, failure);
+  if (standing.IsFirst()) form.MsgBox(failure);
 }
 
 void Forms::DestroyLeaving() {
   // The handlers below the depth at which a form was unloaded have seen nothing of it but through its own handlers.
-  std::vector<Leaving> done;
+  std::list<Leaving> done;
   for (auto one = leaving_.begin(); one != leaving_.end();) {
-    if (one->form->handlersRunning_ == 0 && (depth_ == 0 || depth_ < one->depth)) {
-      done.push_back(std::move(*one));
-      one = leaving_.erase(one);
-    } else {
-      ++one;
+    const auto here = one++;
+    if (here->form->handlersRunning_ == 0 && (depth_ == 0 || depth_ < here->depth)) {
+      done.splice(done.end(), leaving_, here);
     }
   }
 }

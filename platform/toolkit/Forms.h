@@ -1,16 +1,25 @@
 #pragma once
 
 #include <functional>
+#include <list>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <typeindex>
 #include <vector>
 
+#include "platform/Faults.h"
 #include "platform/World.h"
 
 class Form;
+
+// What a handler is told apart by: the component and its event, "Timer4" and "Tick"; no component for the form's own.
+struct HandlerName {
+  std::string_view component = {};
+  std::string_view event;
+};
 
 // The registry of the forms: one shared instance of each. Who makes the forms, out of what, is for a class on top of it
 // to say.
@@ -45,7 +54,7 @@ class Forms {
   }
 
   // Runs a handler of `form`; see Form::Handle.
-  void Dispatch(Form& form, const std::function<void()>& handler);
+  void Dispatch(Form& form, const HandlerName& name, const std::function<void()>& handler);
 
   World& Outside() const { return world_; }
   const std::string& StandardTitle() const { return standardTitle_; }
@@ -75,14 +84,17 @@ class Forms {
 
   Form* Find(std::type_index type) const;
   void Adopt(std::type_index type, std::unique_ptr<Form> created);
+  void Run(Form& form, const HandlerName& name, const std::function<void()>& handler) noexcept;
   void Report(Form& form, const std::string& failure);
+  void Tell(const Form& form, const HandlerName& name, std::string_view fault) noexcept;
   void DestroyLeaving();
 
   World& world_;
   std::string standardTitle_;
   std::vector<Entry> loaded_;  // in the order of loading
-  std::vector<Leaving> leaving_;
+  std::list<Leaving> leaving_;
   std::map<std::type_index, std::vector<std::function<void(Form&)>>> hooks_;
   std::set<std::string> reportsStanding_;
+  FaultTeller faults_;
   int depth_ = 0;  // handlers that are running, one inside the other
 };

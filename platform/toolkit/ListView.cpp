@@ -92,8 +92,12 @@ int ListView::FindItem(std::string_view text, Match match) const {
 }
 
 void ListView::ClickRow(int index) {
-  Handle([this, index] {
+  Handle("Click", [this, index] {
     Select(index);
     Click.Raise();
   });
+}
+
+void ListView::ClickBesideRows() {
+  Handle("Click", [this] { Click.Raise(); });
 }

@@ -63,6 +63,8 @@ class ListView : public Control {
 
   // The operator clicks a row.
   void ClickRow(int index);
+  // The operator clicks where no row is; what is selected stays.
+  void ClickBesideRows();
   // The operator's keys or a rubber band select these rows; `current` is the selected item. No click.
   void SelectRows(const std::vector<int>& rows, int current);
 

@@ -13,7 +13,7 @@ class MenuItem : public Component {
 
   // The operator chooses it.
   void Choose() {
-    if (Enabled) Handle([this] { Click.Raise(); });
+    if (Enabled) Handle("Click", [this] { Click.Raise(); });
   }
 
   Property<bool> Enabled{true};

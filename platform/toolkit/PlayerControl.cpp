@@ -76,9 +76,9 @@ double PlayerControl::Media::duration() const {
 }
 
 void PlayerControl::PlayStateChanged(PlayState) {
-  Handle([this] { PlayStateChange.Raise(); });
+  Handle("PlayStateChange", [this] { PlayStateChange.Raise(); });
 }
 
 void PlayerControl::MediaChanged() {
-  Handle([this] { CurrentMediaChange.Raise(); });
+  Handle("CurrentMediaChange", [this] { CurrentMediaChange.Raise(); });
 }

@@ -19,7 +19,7 @@ void Timer::Apply() {
   Scheduler& scheduler = Owner().Outside().scheduler;
   const bool wanted = Enabled && !retired_;
   if (wanted && running_ == 0) {
-    running_ = scheduler.Start(interval_, phase_, [this] { Handle([this] { Tick.Raise(); }); });
+    running_ = scheduler.Start(interval_, phase_, [this] { Handle("Tick", [this] { Tick.Raise(); }); });
   } else if (!wanted && running_ != 0) {
     scheduler.Cancel(running_);
     running_ = 0;

@@ -11,10 +11,10 @@ class TrayIcon : public Component {
 
   // What the operator does.
   void DoubleClick() {
-    Handle([this] { DblClick.Raise(); });
+    Handle("DblClick", [this] { DblClick.Raise(); });
   }
   void PressMouse(MouseButton button) {
-    Handle([this, button] { MouseDown.Raise(button); });
+    Handle("MouseDown", [this, button] { MouseDown.Raise(button); });
   }
 
   Property<bool> Visible{true};

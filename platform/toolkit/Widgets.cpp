@@ -5,18 +5,18 @@
 #include "platform/toolkit/Failure.h"
 
 void CommandButton::Press() {
-  if (Enabled) Handle([this] { Click.Raise(); });
+  if (Enabled) Handle("Click", [this] { Click.Raise(); });
 }
 
 void CheckBox::Toggle() {
   if (!Enabled) return;
   Value = Ticked() ? 0 : 1;
-  Handle([this] { Click.Raise(); });
+  Handle("Click", [this] { Click.Raise(); });
 }
 
 void TextBox::Type(const std::string& text) {
   Text = text;
-  Handle([this] { Change.Raise(); });
+  Handle("Change", [this] { Change.Raise(); });
 }
 
 void ComboBox::AddItem(const std::string& item) {
@@ -30,7 +30,7 @@ const std::string& ComboBox::List(int index) const {
 }
 
 void ComboBox::Pick(int index) {
-  Handle([this, index] {
+  Handle("Click", [this, index] {
     Text = List(index);
     Click.Raise();
   });
@@ -41,5 +41,5 @@ void ComboBox::Type(const std::string& text) { Text = text; }
 void Slider::Work(int value) {
   if (!Enabled) return;
   Value = std::clamp(value, Min.Get(), std::max(Min.Get(), Max.Get()));
-  Handle([this] { Worked.Raise(); });
+  Handle("Worked", [this] { Worked.Raise(); });
 }

@@ -1,3 +1,6 @@
+#include <new>
+#include <stdexcept>
+
 #include "platform/toolkit/Failures.h"
 #include "tests/StationTest.h"
 
@@ -133,6 +136,58 @@ TEST_F(ToolkitTest, AFailureThatRepeatsWhileItsBoxStandsShowsNoSecondBox) {
   Probe().Tick.Enabled = true;
   Advance(1s);
   EXPECT_EQ(std::ranges::count(sim.trace.Lines(), "box \"No such row.\" \"Corvanta 6.0\""), 1);
+}
+
+TEST_F(ToolkitTest, WhatNobodyForesawEndsTheHandlerIsSaidUnderItsNameAndShowsNoBox) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe&) {
+    ++ticks;
+    throw std::bad_alloc();
+  };
+  Probe().Tick.Enabled = true;
+  testing::internal::CaptureStderr();
+  Advance(2s);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "frmProbe.Tick_Tick: std::bad_alloc\n");
+  EXPECT_EQ(ticks, 2);
+  EXPECT_EQ(sim.trace.Take(), Names{"frmProbe loaded"});
+}
+
+TEST_F(ToolkitTest, AFaultOfEveryTickIsSaidOnceAMinute) {
+  Probe().onTick = [](frmProbe&) { throw std::logic_error("No such road."); };
+  Probe().Tick.Enabled = true;
+  testing::internal::CaptureStderr();
+  Advance(3min);
+  const std::string said = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(std::ranges::count(said, '\n'), 3);
+}
+
+TEST_F(ToolkitTest, AFaultInAnOperatorsActIsSaidUnderItsName) {
+  Probe().Button.Click.Connect([] { throw std::logic_error("No such road."); });
+  Probe().MouseDown.Connect([](MouseButton) { throw 1; });
+  testing::internal::CaptureStderr();
+  Probe().Button.Press();
+  Probe().PressMouse(MouseButton::kLeft);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "frmProbe.Button_Click: No such road.\nfrmProbe_MouseDown: something that is no exception was thrown\n");
+}
+
+TEST_F(ToolkitTest, AFormThatIsUnloadedByAHandlerThatGoesWrongGoesAllTheSame) {
+  Probe().onTick = [&](frmProbe&) {
+    station.forms.Unload<frmProbe>();
+    throw std::bad_alloc();
+  };
+  Probe().Tick.Enabled = true;
+  testing::internal::CaptureStderr();
+  Advance(1s);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "frmProbe.Tick_Tick: std::bad_alloc\n");
+  EXPECT_EQ(frmProbe::alive, 0);
+}
+
+TEST_F(ToolkitTest, WhatNobodyForesawIsNeitherSkippedNorTakenForATestThatHeld) {
+  int reached = 0;
+  EXPECT_THROW(SkippingFailures([] { throw std::bad_alloc(); }, [&] { ++reached; }), std::bad_alloc);
+  EXPECT_EQ(reached, 0);
+  EXPECT_THROW(HeldOrFailed([]() -> bool { throw std::out_of_range(""); }), std::out_of_range);
 }
 
 TEST_F(ToolkitTest, ATestThatFailsCountsAsHeld) {

@@ -91,7 +91,7 @@ void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces&) {
     if (row >= 0) {
       control.ClickRow(row + 1);
     } else {
-      control.Owner().Handle([&control] { control.Click.Raise(); });
+      control.ClickBesideRows();
     }
   });
 }
