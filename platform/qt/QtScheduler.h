@@ -11,6 +11,7 @@
 // All timers of the station on one wake-up of the event loop, armed anew before any tick runs, so that a tick that
 // stands in a dialog holds up none of the others, nor its own next one.
 class QtScheduler : public QObject, public Scheduler {
+  Q_OBJECT
  public:
   explicit QtScheduler(QObject* parent = nullptr);
   ~QtScheduler() override;

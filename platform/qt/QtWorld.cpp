@@ -1,6 +1,5 @@
 #include "platform/qt/QtWorld.h"
 
-#include <QApplication>
 #include <QQuickWindow>
 #include <filesystem>
 
@@ -8,6 +7,7 @@
 #include "platform/qt/GraphicsChoice.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/StationApplication.h"
 #include "platform/qt/desktop/QtDesktop.h"
 #include "platform/qt/desktop/QtDialogs.h"
 #include "platform/qt/desktop/QtMonitors.h"
@@ -34,7 +34,7 @@ struct QtWorld::Parts {
   }
 
   Graphics graphics;  // chosen before there is an application
-  QApplication application;
+  StationApplication application;
   std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
   QtClock clock;
   QtScheduler scheduler;

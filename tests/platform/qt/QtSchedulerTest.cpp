@@ -2,6 +2,7 @@
 
 #include <QThread>
 #include <algorithm>
+#include <new>
 #include <vector>
 
 #include "platform/qt/QtClock.h"
@@ -52,6 +53,18 @@ TEST(QtSchedulerTest, WorkForTheNextFrameRunsOnceAfterThatFramesTicks) {
   EXPECT_TRUE(Until([&] { return order.size() >= 4; }));
   EXPECT_EQ(std::ranges::count(order, 'w'), 1);
   EXPECT_NE(order[0], 'w');
+}
+
+// A fault in one tick ends that tick: neither the others of the moment nor the program.
+TEST(QtSchedulerTest, ATickThatGoesWrongTakesNoOtherWithIt) {
+  QtScheduler scheduler;
+  scheduler.Start(10ms, TickPhase::kFromStart, [] { throw std::bad_alloc(); });
+  int ticks = 0, frames = 0;
+  scheduler.Start(10ms, TickPhase::kFromStart, [&] { ++ticks; });
+  scheduler.OnNextFrame([&] { ++frames; });
+  testing::internal::CaptureStderr();
+  EXPECT_TRUE(Until([&] { return ticks == 5 && frames == 1; }));
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "QtScheduler: std::bad_alloc\n");
 }
 
 }  // namespace

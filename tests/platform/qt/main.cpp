@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QQuickWindow>
+
+#include "platform/qt/StationApplication.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   testing::InitGoogleTest(&argc, argv);
-  const QApplication application(argc, argv);
+  const StationApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }
