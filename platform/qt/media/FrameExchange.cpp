@@ -1,6 +1,7 @@
 #include "platform/qt/media/FrameExchange.h"
 
 #include <cstdlib>
+#include <new>
 
 namespace {
 
@@ -10,7 +11,7 @@ constexpr int kAlignment = 64;  // what the scaler's vector code is fastest with
 QImage NewFrame(QSize pixels) {
   const int stride = (pixels.width() * 4 + kAlignment - 1) / kAlignment * kAlignment;
   void* bytes = std::aligned_alloc(kAlignment, static_cast<std::size_t>(stride) * pixels.height());
-  if (bytes == nullptr) return {};
+  if (bytes == nullptr) throw std::bad_alloc();
   return {static_cast<uchar*>(bytes), pixels.width(), pixels.height(), stride, QImage::Format_RGB32, std::free, bytes};
 }
 
@@ -67,7 +68,7 @@ QImage* FrameExchange::Begin() {
   for (rendering_ = 0; rendering_ == shown_ || rendering_ == waiting_;) ++rendering_;
   QImage& frame = frames_[rendering_];
   if (frame.size() != target_) frame = NewFrame(target_);
-  return frame.isNull() ? nullptr : &frame;
+  return &frame;
 }
 
 void FrameExchange::Publish() {

@@ -26,7 +26,7 @@ class FrameExchange {
   void NotifyReady(std::function<void()> ready);
   void NotifyChanged(std::function<void()> changed);
 
-  // The rendering side. A frame of the wanted size to render into; null when none is wanted.
+  // The rendering side. A frame of the wanted size to render into; null when none is wanted. Throws std::bad_alloc.
   QImage* Begin();
   // The frame of the last Begin is whole.
   void Publish();

@@ -26,7 +26,8 @@ Resting& TheResting() {
 
 }  // namespace
 
-MpvInstance::MpvInstance(std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding, std::function<void()> wakeUp)
+MpvInstance::MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding,
+                         std::function<void()> wakeUp)
     : wakeUp_(std::move(wakeUp)) {
   std::setlocale(LC_NUMERIC, "C");  // mpv reads its numbers by it and refuses to start otherwise
   mpv_ = mpv_create();
@@ -37,7 +38,7 @@ MpvInstance::MpvInstance(std::shared_ptr<FrameExchange> exchange, bool hardwareD
     mpv_terminate_destroy(mpv_);
     throw std::runtime_error("No media player can be started.");
   }
-  renderer_ = std::make_unique<MpvRenderer>(mpv_, std::move(exchange));
+  renderer_ = std::make_unique<MpvRenderer>(name, mpv_, std::move(exchange));
   mpv_set_wakeup_callback(
       mpv_, [](void* self) { static_cast<MpvInstance*>(self)->wakeUp_(); }, this);
 }

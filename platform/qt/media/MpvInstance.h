@@ -18,7 +18,9 @@ class MpvInstance {
  public:
   // `wakeUp` is called on a thread of mpv's when events wait. With `hardwareDecoding` a decoder of the graphics card
   // is used where there is one.
-  MpvInstance(std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding, std::function<void()> wakeUp);
+  // Throws std::runtime_error where mpv cannot start. `name` is the player's.
+  MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding,
+              std::function<void()> wakeUp);
   // Silent and black at once; no further `wakeUp`.
   ~MpvInstance();
   MpvInstance(const MpvInstance&) = delete;

@@ -1,9 +1,11 @@
 #include "platform/qt/media/MpvPlayer.h"
 
 #include <QUrl>
+#include <exception>
 #include <filesystem>
 #include <string_view>
 
+#include "platform/Faults.h"
 #include "platform/qt/media/MpvNames.h"
 
 namespace {
@@ -42,18 +44,28 @@ MpvPlayer::MpvPlayer(MediaListener& listener, bool hardwareDecoding)
 
 MpvPlayer::~MpvPlayer() = default;
 
-void MpvPlayer::MakeInstance() {
-  if (mpv_) return;
-  mpv_ = std::make_unique<MpvInstance>(frames_.Exchange(), hardwareDecoding_, [this] {
+// Makes the instance at the first item. Where that fails, the item is one that does not load, and the next one tries
+// again.
+bool MpvPlayer::HasInstance() {
+  if (mpv_) return true;
+  const std::string name = objectName().toStdString();
+  const auto wakeUp = [this] {
     if (eventsWait_.exchange(true)) return;
     QMetaObject::invokeMethod(this, &MpvPlayer::FetchEvents, Qt::QueuedConnection);
-  });
+  };
+  try {
+    mpv_ = std::make_unique<MpvInstance>(name, frames_.Exchange(), hardwareDecoding_, wakeUp);
+  } catch (const std::exception& fault) {
+    TellFault(name, fault.what());
+    return false;
+  }
   mpv_->Observe(mpv_names::kTimePos, MPV_FORMAT_DOUBLE);
   mpv_->Observe(mpv_names::kDuration, MPV_FORMAT_DOUBLE);
   mpv_->Observe(mpv_names::kPausedForCache, MPV_FORMAT_FLAG);
   SetMute(mute_);
   SetVolume(volume_);
   SetStretchToFit(stretch_);
+  return true;
 }
 
 void MpvPlayer::Open(const std::string& url) {
@@ -70,7 +82,10 @@ void MpvPlayer::Open(const std::string& url) {
 }
 
 void MpvPlayer::Load() {
-  MakeInstance();
+  if (!HasInstance()) {
+    Enter(PlayState::kReady);
+    return;
+  }
   paused_ = false;
   mpv_->Set(mpv_names::kPause, false);
   loadTicket_ = ++lastTicket_;

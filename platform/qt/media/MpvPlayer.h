@@ -42,7 +42,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
     bool Hold(std::int64_t id) const { return id >= first && id <= last; }
   };
 
-  void MakeInstance();
+  bool HasInstance();
   void Load();
   void Forget();
   void Close();

@@ -2,15 +2,20 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
-MpvRenderer::MpvRenderer(mpv_handle* mpv, std::shared_ptr<FrameExchange> exchange) : exchange_(std::move(exchange)) {
+#include "platform/Faults.h"
+
+MpvRenderer::MpvRenderer(std::string name, mpv_handle* mpv, std::shared_ptr<FrameExchange> exchange)
+    : name_(std::move(name)), exchange_(std::move(exchange)) {
   std::array<mpv_render_param, 2> parameters{{
       {MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_SW)},
       {MPV_RENDER_PARAM_INVALID, nullptr},
   }};
   if (mpv_render_context_create(&context_, mpv, parameters.data()) < 0) {
     context_ = nullptr;
+    TellFault(name_, "The renderer cannot start: there will be no pictures.");
     return;
   }
   thread_ = std::thread([this] { Run(); });
@@ -52,7 +57,13 @@ void MpvRenderer::Run() {
 
 // A frame that nobody wants to see is taken out of mpv all the same: playing waits for its frames to be fetched.
 void MpvRenderer::Render() {
-  QImage* frame = exchange_->Begin();
+  const char* fault = nullptr;
+  QImage* frame = nullptr;
+  try {
+    frame = exchange_->Begin();
+  } catch (const std::bad_alloc&) {
+    fault = "There is no memory for pictures.";
+  }
   int skip = frame == nullptr ? 1 : 0;
   int block = 0;
   std::array<int, 2> size{};
@@ -73,7 +84,15 @@ void MpvRenderer::Render() {
       {MPV_RENDER_PARAM_SKIP_RENDERING, &skip},
       {MPV_RENDER_PARAM_INVALID, nullptr},
   }};
-  const bool rendered = mpv_render_context_render(context_, parameters.data()) >= 0;
+  const int result = mpv_render_context_render(context_, parameters.data());
   mpv_render_context_report_swap(context_);
-  if (frame != nullptr && rendered) exchange_->Publish();
+  if (result < 0) fault = mpv_error_string(result);
+  if (frame != nullptr && fault == nullptr) exchange_->Publish();
+  Note(fault);
+}
+
+// Said when pictures cease to be made, not at each of them.
+void MpvRenderer::Note(const char* fault) {
+  if (fault != nullptr && !failing_) TellFault(name_, fault);
+  failing_ = fault != nullptr;
 }

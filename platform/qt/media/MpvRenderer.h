@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 
 #include "platform/qt/media/FrameExchange.h"
@@ -16,7 +17,9 @@
 class MpvRenderer {
  public:
   // Must exist before the first file is loaded, or its video track stays off.
-  MpvRenderer(mpv_handle* mpv, std::shared_ptr<FrameExchange> exchange);
+  // `name` is the player's, under which a renderer that cannot start or make pictures says so on standard error; the
+  // sound plays on.
+  MpvRenderer(std::string name, mpv_handle* mpv, std::shared_ptr<FrameExchange> exchange);
   ~MpvRenderer();
 
  private:
@@ -25,11 +28,14 @@ class MpvRenderer {
   void Ask(Wish wish);
   void Run();
   void Render();
+  void Note(const char* fault);
 
+  std::string name_;
   std::shared_ptr<FrameExchange> exchange_;
   mpv_render_context* context_ = nullptr;
   std::mutex mutex_;
   std::condition_variable asked_;
   Wish wish_ = Wish::kNothing;
+  bool failing_ = false;  // and has said so; the rendering thread's alone
   std::thread thread_;
 };

@@ -8,6 +8,7 @@
 
 #include "platform/qt/media/FrameSource.h"
 #include "platform/qt/media/MpvEngine.h"
+#include "platform/qt/media/MpvRenderer.h"
 #include "tests/platform/qt/TestMedia.h"
 
 namespace {
@@ -211,6 +212,28 @@ TEST_F(MpvPlayerTest, AnAddressThatNeverAnswersHoldsUpNobody) {
   player->Stop();
   player.reset();
   EXPECT_LT(call.elapsed(), 15000);
+}
+
+TEST_F(MpvPlayerTest, AMachineThatHasNoMemoryForPicturesSaysSoOnceAndPlaysOn) {
+  Source().SetTarget({1 << 24, 1 << 22});  // more bytes than an address has
+  testing::internal::CaptureStderr();
+  player->Open(test_media::Clip("too large.mp4", Qt::red, 0.6));
+  EXPECT_TRUE(Reaches(PlayState::kMediaEnded));
+  const std::string said = testing::internal::GetCapturedStderr();  // the sound system has a word in it too
+  const std::size_t first = said.find("player: There is no memory for pictures.\n");
+  ASSERT_NE(first, std::string::npos) << said;
+  EXPECT_EQ(said.find("player: ", first + 1), std::string::npos) << said;
+}
+
+TEST(MpvRendererTest, ARendererThatCannotStartSaysSoUnderThePlayersName) {
+  const std::unique_ptr<mpv_handle, void (*)(mpv_handle*)> mpv(mpv_create(), mpv_terminate_destroy);
+  mpv_set_option_string(mpv.get(), "vo", "libmpv");
+  mpv_initialize(mpv.get());
+  const MpvRenderer only("first", mpv.get(), std::make_shared<FrameExchange>());
+  testing::internal::CaptureStderr();
+  const MpvRenderer oneTooMany("frmPlayer.Player", mpv.get(), std::make_shared<FrameExchange>());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "frmPlayer.Player: The renderer cannot start: there will be no pictures.\n");
 }
 
 }  // namespace
