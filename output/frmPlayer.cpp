@@ -83,6 +83,8 @@ void frmPlayer::Load() {
   picNext.Left = Width + picNext.Width;
   picNext.Top = (Height - picNext.Height) / 2;
   SetHeight();
+  // The restore walk has laid a column out for the size that the window had before the store's.
+  if (PicSide.Visible) SideAd();
   win.RecordWindowPosTo = station_.dataFolder.Path("\\Window.ini");
 }
 

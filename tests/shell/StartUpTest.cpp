@@ -76,6 +76,24 @@ TEST_F(StartUpTest, OnlyTheExactWordTrueTurnsAFeatureOn) {
   EXPECT_FALSE(Output().Timer1.Enabled);
 }
 
+TEST_F(StartUpTest, ASideColumnComesBackAtTheLeftEdgeOfAWindowOfAnySize) {
+  sim.files.Put("/station/Window.ini", "[frmPlayer]\r\nLeft=0\r\nTop=0\r\nWidth=24000\r\nHeight=13500\r\n");
+  Set("Output", "Show", "True");
+  Set("LeftSideAd", "Show", "True");
+  Start();
+  Advance(3s);
+  EXPECT_EQ(Output().Width, 24000);
+  EXPECT_EQ(Output().PicSide.Left, 0);
+  EXPECT_EQ(Output().PicSide.Height, 13500 - Output().PicAd.Height);
+  EXPECT_EQ(Output().FlashSideAd.Height, Output().PicSide.Height);
+}
+
+TEST_F(StartUpTest, ARelayoutShowsNoColumnThatIsSwitchedOff) {
+  Start();
+  Advance(3s);
+  EXPECT_FALSE(Output().PicSide.Visible);
+}
+
 TEST_F(StartUpTest, WithoutTheSideAdThePlayerHasTheFullWidth) {
   Output().Player.Left = 100;
   Output().Player.Width = 100;
