@@ -3,9 +3,12 @@
 #include "output/Placement.h"
 #include "platform/Windows.h"
 #include "platform/toolkit/Failures.h"
+#include "settings/FormHelpers.h"
 #include "settings/Numbers.h"
 
 namespace {
+
+constexpr Twips kDesignHeight = 11520;
 
 // The players' transport bars stand below the visible part of their panes.
 constexpr Twips kTransportBar = 900;
@@ -18,7 +21,7 @@ constexpr int kMediaEnded = static_cast<int>(PlayState::kMediaEnded);
 frmPlayer::frmPlayer(Station& station)
     : Form(station.forms, "frmPlayer", Kind::kOnAir), station_(station), currentAd_(station.Shared<CurrentAd>()) {
   Width = 15450;
-  Height = 11520;
+  Height = kDesignHeight;
   PicVideoAd.Visible = false;
   PicSide.Visible = false;
   PicSide.Width = 3000;
@@ -65,14 +68,27 @@ frmPlayer::frmPlayer(Station& station)
 }
 
 // Timer4 runs it again two seconds after the window opened, when the position store has had its say about the size.
-// The store has the window back at the end, so what is recorded is never the corner that the first lines set.
+// The store has the window back at the end, so what is recorded is never the corner that the first lines set. A window
+// that was masked meanwhile stays masked, and out of the store's hands; behind the mask its panes are laid out all the
+// same.
 void frmPlayer::Load() {
+  if (heightBeforeMask_) {
+    LayOut();
+    CutToStrip();
+    return;
+  }
   win.Release();
   Top = 0;
   Left = 0;
+  LayOut();
+  win.RecordWindowPosTo = station_.dataFolder.Path("\\Window.ini");
+}
+
+void frmPlayer::LayOut() {
+  const Twips height = WholeHeight();
   Fill(PicMedia);
   Fill(Player, kTransportBar);
-  PicAv.Top = (Height - PicAv.Height) / 2;
+  PicAv.Top = (height - PicAv.Height) / 2;
   PicAv.Left = (Width - PicAv.Width) / 2;
   PicAd.Left = 0;
   PicAd.Width = Width;
@@ -81,17 +97,39 @@ void frmPlayer::Load() {
   Fill(PlayerOnline, kOnlineTransportBar);
   Fill(AdPlayer, kTransportBar);
   picNext.Left = Width + picNext.Width;
-  picNext.Top = (Height - picNext.Height) / 2;
+  picNext.Top = (height - picNext.Height) / 2;
   SetHeight();
   // The restore walk has laid a column out for the size that the window had before the store's.
   if (PicSide.Visible) SideAd();
-  win.RecordWindowPosTo = station_.dataFolder.Path("\\Window.ini");
+}
+
+// The store keeps the place of the whole window: a power cut must not bring a strip back.
+void frmPlayer::Mask() {
+  win.Release();
+  if (!heightBeforeMask_) heightBeforeMask_ = Height.Get();
+  CutToStrip();
+  win.OnTop = true;
+}
+
+void frmPlayer::CutToStrip() {
+  Height = PicAd.Height.Get();
+  PicAd.Top = 0;
+  PicAd.Left = 0;
+  Top = Outside().windows.ScreenSize().height * kTwipsPerPixel - PicAd.Height;
+}
+
+void frmPlayer::Unmask() {
+  heightBeforeMask_.reset();
+  Height = kDesignHeight;
+  win.OnTop = false;
+  CentreForm(*this);
+  win.Hold();
 }
 
 void frmPlayer::Fill(Control& control, Twips below) {
   control.Top = 0;
   control.Left = 0;
-  control.Height = Height + below;
+  control.Height = WholeHeight() + below;
   control.Width = Width;
 }
 
@@ -160,7 +198,7 @@ void frmPlayer::SideAd() {
   // The band is as wide as the form, so the column stands at the left edge, over the picture; nothing makes room.
   PicSide.Left = Width - PicAd.Width;
   PicSide.Top = 0;
-  PicSide.Height = Height - PicAd.Height;
+  PicSide.Height = WholeHeight() - PicAd.Height;
   FlashSideAd.Top = 0;
   FlashSideAd.Left = 0;
   FlashSideAd.Height = PicSide.Height.Get();

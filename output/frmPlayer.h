@@ -58,6 +58,12 @@ class frmPlayer : public Form {
   void ViewAd(const std::string& header, const std::string& scroll, const std::string& left, const std::string& right);
   // Shows the side column and lays it out.
   void SideAd();
+  // Cuts the window down to the crawler strip, on top of all, at the bottom of the primary display; its left edge stays
+  // where it is.
+  void Mask();
+  // Gives the window its design height back, whatever it had before, in the middle of the primary display. The strip
+  // stays at its top until the next ad.
+  void Unmask();
   // Sends the window to monitor `index`, from 1; see MoveToMonitor. The monitors are those of the first call: one that
   // is plugged in later is not seen before the window is made anew. Stays put when there is no such monitor.
   void MoveTo(int index);
@@ -84,11 +90,15 @@ class frmPlayer : public Form {
   void Player_PlayStateChange();
   void AdPlayer_PlayStateChange();
   void DragBand();
+  void LayOut();
+  void CutToStrip();
+  Twips WholeHeight() const { return heightBeforeMask_.value_or(Height); }
   void Fill(Control& control, Twips below = 0);
   void LoadPanel(FlashBox& panel, const std::string& path);
 
   Station& station_;
   CurrentAd& currentAd_;
   std::optional<cMonitors> monitors_;
-  int slide_ = 0;  // of the banner, twips
+  std::optional<Twips> heightBeforeMask_;  // of a window that is masked now
+  int slide_ = 0;                          // of the banner, twips
 };

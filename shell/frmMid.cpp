@@ -2,10 +2,8 @@
 
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
-#include "platform/Windows.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
-#include "settings/FormHelpers.h"
 #include "shell/ConfirmExit.h"
 
 namespace {
@@ -53,33 +51,12 @@ bool frmMid::MayUnload() {
 void frmMid::mnuMasking_Click() {
   auto& output = station_.forms.Get<frmPlayer>();
   if (MaskingOn) {
-    UnmaskOutput(output);
+    output.Unmask();
   } else {
-    MaskOutput(output);
+    output.Mask();
   }
-}
-
-// Cuts the output window down to the crawler strip, pinned to the bottom of the primary screen. The left edge stays
-// where it is. Meant so. The store keeps the place of the whole window: a power cut must not bring a strip back.
-void frmMid::MaskOutput(frmPlayer& output) {
-  output.win.Release();
-  output.Height = output.PicAd.Height.Get();
-  output.PicAd.Top = 0;
-  output.PicAd.Left = 0;
-  output.Top = Outside().windows.ScreenSize().height * kTwipsPerPixel - output.PicAd.Height;
-  output.win.OnTop = true;
-  MaskingOn = true;
-  mnuMasking.Checked = true;
-}
-
-// Whatever height the window had before, it gets its design height; the strip stays at the top until the next ad.
-void frmMid::UnmaskOutput(frmPlayer& output) {
-  output.Height = 11520;
-  output.win.OnTop = false;
-  mnuMasking.Checked = false;
-  CentreForm(output);
-  MaskingOn = false;
-  output.win.Hold();
+  MaskingOn = !MaskingOn;
+  mnuMasking.Checked = MaskingOn;
 }
 
 void frmMid::RegisterRunAtStart() { Outside().desktop.RunAtLogOn("My App", station_.dataFolder.Path("\\corvanta")); }

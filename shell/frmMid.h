@@ -6,8 +6,6 @@
 #include "platform/toolkit/Widgets.h"
 #include "settings/Station.h"
 
-class frmPlayer;
-
 // The operator's control window, and the restore of the whole station at start-up. It refuses to close: it hides, and
 // the broadcast goes on.
 class frmMid : public Form {
@@ -28,7 +26,7 @@ class frmMid : public Form {
   bool OutputShown = false;
   bool CrawlerShown = false;
   bool LeftSideAdShown = false;
-  bool MaskingOn = false;  // not kept: always off after a start
+  bool MaskingOn = false;  // not kept: always off after a start; outlives an output window that is made anew
 
   // Puts every feature back as Settings.ini says it stood when the station last ran. Asks nothing; a feature that
   // fails does not stop the walk.
@@ -49,8 +47,6 @@ class frmMid : public Form {
   void RestorePlaylist();
   void RestoreDesktop();
   void mnuMasking_Click();
-  void MaskOutput(frmPlayer& output);
-  void UnmaskOutput(frmPlayer& output);
   void RegisterRunAtStart();
   void OnHotKey(int id);
 

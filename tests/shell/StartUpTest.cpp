@@ -278,3 +278,50 @@ TEST_F(MaskingTest, APowerCutWhileMaskedBringsTheWholeWindowBack) {
   EXPECT_EQ(whole.PicMedia.Height, 9000);
   EXPECT_EQ(whole.PicAd.Top, 9000 - whole.PicAd.Height);
 }
+
+TEST_F(MaskingTest, AWindowMaskedWithinTwoSecondsOfItsLoadStaysMasked) {
+  sim.files.Put("/station/Window.ini", "[frmPlayer]\r\nLeft=30\r\nTop=30\r\nWidth=24000\r\nHeight=13500\r\n");
+  ControlWindow();
+  frmPlayer& output = Output();
+  sim.files.Put("/ads/scorl.jpg", "jpeg");
+  sim.pictures.sizes = {{"/ads/scorl.jpg", {400, 90}}};
+  output.ViewAd("", "/ads/scorl.jpg", "", "");
+  output.SideAd();
+  Advance(1s);
+  ControlWindow().mnuMasking.Choose();
+  Advance(3s);
+  EXPECT_EQ(output.Height, 1350);
+  EXPECT_EQ(output.Top, 1080 * 15 - 1350);
+  EXPECT_EQ(output.Left, 30);
+  EXPECT_EQ(output.PicAd.Top, 0);
+  EXPECT_EQ(output.PicAd.Width, 24000);
+  EXPECT_TRUE(output.OnTop);
+  EXPECT_TRUE(ControlWindow().MaskingOn);
+  // What stands behind the mask is laid out for the whole window.
+  EXPECT_EQ(output.PicMedia.Height, 13500);
+  EXPECT_EQ(output.Player.Width, 24000);
+  EXPECT_EQ(output.PicSide.Height, 13500 - 1350);
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_EQ(output.Height, 11520);
+  IniFile store(sim.files);
+  store.SetPath("/station/Window.ini");
+  EXPECT_EQ(store.ReadValue("frmPlayer", "Height", ""), "13500");
+}
+
+TEST_F(MaskingTest, AnOutputWindowMadeAnewIsWholeWhileMaskingStaysOn) {
+  ControlWindow();
+  OutputWithStrip();
+  Advance(3s);
+  ControlWindow().mnuMasking.Choose();
+  station.forms.Unload<frmPlayer>();
+  for (const auto wait : {0s, 3s}) {
+    Output();
+    Advance(wait);
+    EXPECT_EQ(Output().Height, 9000);
+    EXPECT_FALSE(Output().OnTop);
+  }
+  EXPECT_TRUE(ControlWindow().MaskingOn);
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_FALSE(ControlWindow().MaskingOn);
+  EXPECT_EQ(Output().Height, 11520);
+}
