@@ -11,6 +11,6 @@ void CentreForm(Form& form);
 // Hands the form to the pointer; let go, it snaps back to the middle: it can be pulled up and down only.
 void DragForm(Form& form);
 
-// Looks for the first row that begins with `text` as a whole word, case ignored. A row that is found is scrolled into
+// Looks for the first row whose text is `text`, case ignored. A row that is found is scrolled into
 // view and selected, the list is given the keyboard, and the answer is true.
 bool FindListItem(ListView& list, const std::string& text);

@@ -7,14 +7,8 @@
 
 namespace {
 
-bool IsWordLetter(char letter) {
-  const char folded = Folded(letter);
-  return (folded >= 'a' && folded <= 'z') || (letter >= '0' && letter <= '9') || letter == '_' || (letter & 0x80) != 0;
-}
-
 bool Matches(std::string_view row, std::string_view text, ListView::Match match) {
-  return row.size() >= text.size() && EqualFolded(row.substr(0, text.size()), text) &&
-         (match == ListView::Match::kBeginning || row.size() == text.size() || !IsWordLetter(row[text.size()]));
+  return EqualFolded(match == ListView::Match::kBeginning ? row.substr(0, text.size()) : row, text);
 }
 
 }  // namespace

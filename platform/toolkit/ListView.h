@@ -57,9 +57,9 @@ class ListView : public Control {
   void SetSelected(int index, bool selected);
   void EnsureVisible(int index);
 
-  enum class Match { kWholeWord, kBeginning };
-  // The first row that begins with `text`, as a whole word or just so, case ignored; 0 when there is none.
-  int FindItem(std::string_view text, Match match = Match::kWholeWord) const;
+  enum class Match { kWhole, kBeginning };
+  // The first row whose text is `text`, or begins with it, case ignored; 0 when there is none.
+  int FindItem(std::string_view text, Match match = Match::kWhole) const;
 
   // The operator clicks a row.
   void ClickRow(int index);

@@ -226,12 +226,15 @@ TEST_F(ToolkitTest, SettingTheIndexOfAFileListRaisesTheClickAndAnUnknownIndexFai
   EXPECT_EQ(files.FileName(), "");
 }
 
-TEST_F(ToolkitTest, ARowIsFoundByItsFirstWordsInEitherCase) {
+TEST_F(ToolkitTest, ARowIsFoundByItsWholeTextInEitherCase) {
   ListView& list = Playlists().ListPlay;
   for (const char* text : {"07:00:00 AMX", "07:00:00 AM late", "07:00:00 AM"}) {
     list.Add({.text = text, .subItems = {}});
   }
-  EXPECT_EQ(list.FindItem("07:00:00 am"), 2);
+  EXPECT_EQ(list.FindItem("07:00:00 am"), 3);
+  EXPECT_EQ(list.FindItem("07:00:00"), 0);
+  EXPECT_EQ(list.FindItem("07:00:00 am", ListView::Match::kBeginning), 1);
+  EXPECT_EQ(list.FindItem("07:00:00 AM later", ListView::Match::kBeginning), 0);
   EXPECT_EQ(list.FindItem("07:00:00 PM"), 0);
 }
 

@@ -64,6 +64,15 @@ TEST_F(EditingTest, AStartTimeThatIsTakenLeavesTheFileAndSelectsTheRow) {
   EXPECT_EQ(sim.windows.focus, "frmPlaylist.ListPlay");
 }
 
+TEST_F(EditingTest, AStartTimeWithAWordBehindItTakesNoStartTime) {
+  Desk();
+  sim.files.Put("/station/Playlist/Day.plt", "[07:00:00 AM news]\r\nPath=/clips/b.mp4\r\n");
+  Playlists().FilePlaylist.Pick(0);
+  Playlists().btnAdd.Press();
+  ASSERT_EQ(Playlists().ListPlay.Count(), 2);
+  EXPECT_EQ(Playlists().ListPlay.Row(2).text, "07:00:00 AM");
+}
+
 TEST_F(EditingTest, TheStartTimeWrapsPastMidnight) {
   Desk();
   Playlists().txtEndTime.Type("11:59:50 PM");

@@ -79,6 +79,12 @@ TEST_F(TimeScheduleTest, ARowThatIsNotATimeInItsFormNeverStarts) {
   EXPECT_EQ(Aired(), Names{});
 }
 
+TEST_F(TimeScheduleTest, ATimeWithAWordBehindItNeverStartsAndBlocksNoRowOfThatTime) {
+  Rows({"07:00:05 AM news", "07:00:05 AM", "07:00:08 AM news"});
+  Advance(1min);
+  EXPECT_EQ(Aired(), Names{"2.mp4"});
+}
+
 TEST_F(TimeScheduleTest, TheCaseOfThePeriodIsIgnored) {
   Rows({"07:00:05 am"});
   Advance(6s);
