@@ -19,7 +19,7 @@ void frmPlaylist::ConnectSchedules() {
   TimerFind.Tick.Connect([this] { TimerFind_Tick(); });
   TimerDay.Tick.Connect([this] { SkippingFailures([this] { TimerDay_Tick(); }); });
   vkCommand2.Click.Connect([this] { SkippingFailures([this] { vkCommand2_Click(); }); });
-  vkCommand3.Click.Connect([this] { SkippingFailures([this] { vkCommand3_Click(); }); });
+  vkCommand3.Click.Connect([this] { vkCommand3_Click(); });
 }
 
 // A match starts its row in every mode, whatever is on the air; no cursor moves, and nothing goes back to what was cut
@@ -82,6 +82,6 @@ void frmPlaylist::vkCommand2_Click() {
 
 void frmPlaylist::vkCommand3_Click() {
   if (MsgBox("Are You Sure you wnat to Delete this Schedule?", Buttons::kYesNo, "DELETE") != Answer::kYes) return;
-  station_.stores.ScheduleIni.Sections().Remove(ListSchedule.Selected().text);
-  LoadSchedule(ListSchedule);
+  SkippingFailures([this] { station_.stores.ScheduleIni.Sections().Remove(ListSchedule.Selected().text); },
+                   [this] { LoadSchedule(ListSchedule); });
 }

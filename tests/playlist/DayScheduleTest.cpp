@@ -178,6 +178,16 @@ TEST_F(DayScheduleTest, ARemoveWithNothingSelectedDoesNothing) {
   EXPECT_EQ(Playlists().ListSchedule.Count(), 1);
 }
 
+TEST_F(DayScheduleTest, ARemoveWithNothingSelectedReadsTheFileAnewAllTheSame) {
+  Schedule("[11/15/2026-07:00:10 AM]\r\nPlaylistName=A.plt\r\n");
+  ASSERT_EQ(Playlists().ListSchedule.Count(), 1);
+  sim.files.Put("/station/Schedule.ini", "");
+  sim.dialogs.answers = {Answer::kYes};
+  Playlists().vkCommand3.Press();
+  EXPECT_EQ(Playlists().ListSchedule.Count(), 0);
+  EXPECT_EQ(Boxes("box"), 1);  // the question alone
+}
+
 TEST_F(DayScheduleTest, KeysThatAreNoDatesAreRowsThatNeverFire) {
   Schedule("[soon]\r\nPlaylistName=A.plt\r\n[32/13/2026-07:00:10 AM]\r\nPlaylistName=A.plt\r\n[]\r\n");
   EXPECT_GE(Playlists().ListSchedule.Count(), 2);
