@@ -1,4 +1,6 @@
 // The operator's desk: making a running order, and playlists.
+#include <optional>
+
 #include "output/frmPlayer.h"
 #include "platform/Files.h"
 #include "platform/toolkit/Failures.h"
@@ -49,11 +51,17 @@ void frmPlaylist::btnAdd_Click() {
 }
 
 // The list is shown anew by the pick of FilePlaylist: with none picked there it comes back empty. Meant so.
+// The schedules go on while the box stands: what is removed is the row that was asked about, and nothing is where the
+// list has been exchanged for another playlist's.
 void frmPlaylist::cmdRemove_Click() {
+  IniFile& playlist = station_.stores.PlaylistIni;
+  const std::string askedIn = playlist.Path();
+  const std::optional<ListRow> asked = ListPlay.SelectedNow();
   const Answer answer =
       MsgBox("Are You Sure you wnat to Delete this pgogram from playlist?", Buttons::kYesNo, kDeleteTitle);
-  if (answer != Answer::kYes) return;
-  station_.stores.PlaylistIni.Sections().Remove(ListPlay.Selected().text);
+  if (answer != Answer::kYes || playlist.Path() != askedIn) return;
+  if (!asked) throw Failure("There is no selected row in " + ListPlay.Name() + ".");
+  playlist.Sections().Remove(asked->text);
   FilePlaylist_Click();
 }
 
@@ -78,9 +86,10 @@ void frmPlaylist::btnCreateList_Click() {
 
 // The rows of the deleted playlist stay in the list, and what is on the air goes on.
 void frmPlaylist::btnDeletePlaylist_Click() {
+  const std::string asked = FilePlaylist.ListIndex >= 0 ? FilePlaylist.FilePath() : "";
   const Answer answer = MsgBox("Are You Sure you wnat to Delete this playlist?", Buttons::kYesNo, kDeleteTitle);
   if (answer != Answer::kYes) return;
-  if (FilePlaylist.ListIndex >= 0) Outside().files.Remove(FilePlaylist.FilePath());
+  if (!asked.empty()) Outside().files.Remove(asked);
   FilePlaylist.Refresh();
   LoadPlaylistToCmb();
 }

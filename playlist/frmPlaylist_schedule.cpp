@@ -1,4 +1,6 @@
 // Both schedules: rows that start at their own start time, and playlists that are exchanged at a date and time.
+#include <optional>
+
 #include "output/frmPlayer.h"
 #include "platform/Clock.h"
 #include "platform/toolkit/Failures.h"
@@ -80,8 +82,10 @@ void frmPlaylist::vkCommand2_Click() {
   LoadSchedule(ListSchedule);
 }
 
+// A row that comes due while the box stands is selected then; removed is the one that was asked about.
 void frmPlaylist::vkCommand3_Click() {
+  const std::optional<ListRow> asked = ListSchedule.SelectedNow();
   if (MsgBox("Are You Sure you wnat to Delete this Schedule?", Buttons::kYesNo, "DELETE") != Answer::kYes) return;
-  SkippingFailures([this] { station_.stores.ScheduleIni.Sections().Remove(ListSchedule.Selected().text); },
-                   [this] { LoadSchedule(ListSchedule); });
+  if (asked) station_.stores.ScheduleIni.Sections().Remove(asked->text);
+  LoadSchedule(ListSchedule);
 }

@@ -28,6 +28,10 @@ const ListRow& ListView::Row(int index) const {
   return rows_[static_cast<std::size_t>(index) - 1];
 }
 
+std::optional<ListRow> ListView::SelectedNow() const {
+  return selectedItem_ == 0 ? std::nullopt : std::optional(Selected());
+}
+
 void ListView::Clear() { Assign({}); }
 
 void ListView::Insert(int index, ListRow row) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,6 +52,8 @@ class ListView : public Control {
   int SelectedItem() const { return selectedItem_; }
   // The selected item. Fails while there is none.
   const ListRow& Selected() const { return Row(selectedItem_); }
+  // The selected item as it is now, for a question about it: timers may select another before the answer.
+  std::optional<ListRow> SelectedNow() const;
   // Makes this the one selected row.
   void Select(int index);
   // Selects a row beside the others, or takes it out. Selecting makes it the selected item.

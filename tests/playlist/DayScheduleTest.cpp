@@ -188,6 +188,16 @@ TEST_F(DayScheduleTest, ARemoveWithNothingSelectedReadsTheFileAnewAllTheSame) {
   EXPECT_EQ(Boxes("box"), 1);  // the question alone
 }
 
+TEST_F(DayScheduleTest, ARowThatComesDueWhileTheQuestionStandsIsNotTheOneThatGoes) {
+  Playlist("A.plt", {Clip("a.mp4")});
+  Schedule("[11/15/2026-07:00:10 AM]\r\nPlaylistName=A.plt\r\n[11/16/2026-07:00:10 AM]\r\nPlaylistName=B.plt\r\n");
+  Playlists().ListSchedule.ClickRow(2);
+  sim.dialogs.answers = {Answer::kYes};
+  sim.dialogs.whileStanding = [&] { Advance(15s); };
+  Playlists().vkCommand3.Press();
+  EXPECT_EQ(File(), "[11/15/2026-07:00:10 AM]\r\nPlaylistName=A.plt\r\n");
+}
+
 TEST_F(DayScheduleTest, KeysThatAreNoDatesAreRowsThatNeverFire) {
   Schedule("[soon]\r\nPlaylistName=A.plt\r\n[32/13/2026-07:00:10 AM]\r\nPlaylistName=A.plt\r\n[]\r\n");
   EXPECT_GE(Playlists().ListSchedule.Count(), 2);

@@ -136,6 +136,39 @@ TEST_F(EditingTest, ARemoveOnAnEmptyListIsAFailureThatTheOperatorSeesAndTheStati
   EXPECT_TRUE(sim.trace.Lines().back().ends_with("\"Corvanta 6.0\""));
 }
 
+// A playlist of two rows at 07:00:01 and 07:00:02, the second of which the operator is asked about.
+TEST_F(EditingTest, ARowThatComesDueWhileTheQuestionStandsIsNotTheOneThatGoes) {
+  Playlist("Day.plt", {Clip("a.mp4"), Clip("b.mp4")});
+  Set("Playlist", "TimeON", "1");
+  Playlists().FilePlaylist.Pick(0);
+  Playlists().ListPlay.SelectRows({2}, 2);
+  sim.dialogs.answers = {Answer::kYes};
+  sim.dialogs.whileStanding = [&] {
+    Advance(1500ms);
+    ASSERT_EQ(Playlists().ListPlay.SelectedItem(), 1);
+  };
+  Playlists().cmdRemove.Press();
+  ASSERT_EQ(Playlists().ListPlay.Count(), 1);
+  EXPECT_EQ(Playlists().ListPlay.Row(1).text, "07:00:01 AM");
+}
+
+TEST_F(EditingTest, AListThatIsExchangedWhileTheQuestionStandsLosesNoRow) {
+  Playlist("Morning.plt", {Clip("x.mp4"), Clip("y.mp4")});
+  Playlist("Day.plt", {Clip("a.mp4"), Clip("b.mp4")});
+  sim.files.Put("/station/Schedule.ini", "[11/15/2026-07:00:05 AM]\r\nPlaylistName=Morning.plt\r\n");
+  Set("Playlist", "DaySchdule", "1");
+  Playlists().FilePlaylist.Pick(0);
+  Playlists().ListPlay.SelectRows({1}, 1);
+  const std::string day = sim.files.Read("/station/Playlist/Day.plt").value();
+  const std::string morning = sim.files.Read("/station/Playlist/Morning.plt").value();
+  sim.dialogs.answers = {Answer::kYes};
+  sim.dialogs.whileStanding = [&] { Advance(10s); };
+  Playlists().cmdRemove.Press();
+  EXPECT_EQ(sim.files.Read("/station/Playlist/Day.plt"), day);
+  EXPECT_EQ(sim.files.Read("/station/Playlist/Morning.plt"), morning);
+  EXPECT_EQ(Playlists().ListPlay.Row(1).SubItem(4), "/clips/x.mp4") << "the schedule's list stays";
+}
+
 TEST_F(EditingTest, UpMovesEachSelectedRowOnePlace) {
   Rows("abcde", {3, 5});
   Playlists().btnUp.Press();
