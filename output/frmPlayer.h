@@ -41,10 +41,13 @@ class frmPlayer : public Form {
   PictureBox PicAv{PicMedia, "PicAv"};       // behind the player, or it would hide the middle of every item
   PlayerControl m{*this, "m"};
 
+  // In turn: scrolls the crawler; looks for the last 25 seconds of an item, and slides the banner in, but nothing
+  // enables those two; lays the window out once more.
   Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1), Timer::kEnabled};
   Timer Timer2{*this, "Timer2", std::chrono::milliseconds(10), Timer::kDisabled};
   Timer Timer3{*this, "Timer3", std::chrono::milliseconds(10), Timer::kDisabled};
   Timer Timer4{*this, "Timer4", std::chrono::milliseconds(2000), Timer::kEnabled};
+  // Half a second after an end: the next item, and the next video ad.
   Timer TimerMedia{*this, "TimerMedia", std::chrono::milliseconds(500), Timer::kDisabled};
   Timer TimerAdPlayer{*this, "TimerAdPlayer", std::chrono::milliseconds(500), Timer::kDisabled};
 

@@ -7,6 +7,25 @@
 #include "settings/Numbers.h"
 #include "settings/TimeTexts.h"
 
+namespace {
+
+// Each option: its box, and its key in Settings.ini. The keys are on users' disks: never change them.
+constexpr struct {
+  CheckBox frmPlaylist::*box;
+  const char* key;
+} kOptions[] = {
+    {&frmPlaylist::chkPreview, "ClickTOPlay"},
+    {&frmPlaylist::chkTime, "TimeON"},
+    {&frmPlaylist::chkDaySchedule, "DaySchdule"},
+    {&frmPlaylist::chkLastPlay, "LastPlay"},
+    {&frmPlaylist::chkFolderPlay, "PlayLocation"},
+    {&frmPlaylist::chkRendomPlay, "RendomPlay"},
+    {&frmPlaylist::chkOneAfterAnother, "OneAfterAnother"},
+    {&frmPlaylist::ChkQuickPlay, "QuickPlay"},
+};
+
+}  // namespace
+
 frmPlaylist::frmPlaylist(Station& station) : Form(station.forms, "frmPlaylist", Kind::kOperator), station_(station) {
   Caption = "Playlist manager";
   Width = 1280 * kTwipsPerPixel;
@@ -21,14 +40,10 @@ frmPlaylist::frmPlaylist(Station& station) : Form(station.forms, "frmPlaylist", 
 }
 
 void frmPlaylist::ConnectOptions() {
-  KeepOption(chkPreview, "ClickTOPlay");
-  KeepOption(chkTime, "TimeON");
-  KeepOption(chkDaySchedule, "DaySchdule");
-  KeepOption(chkLastPlay, "LastPlay");
-  KeepOption(chkFolderPlay, "PlayLocation");
-  KeepOption(chkRendomPlay, "RendomPlay");
-  KeepOption(chkOneAfterAnother, "OneAfterAnother");
-  KeepOption(ChkQuickPlay, "QuickPlay");
+  for (const auto& option : kOptions) {
+    CheckBox& box = this->*option.box;
+    box.Click.Connect([this, &box, key = option.key] { WriteSetting(key, std::to_string(box.Value)); });
+  }
   chkTime.Click.Connect([this] {
     ApplyTimeSchedule();
     if (!chkTime.Ticked()) PicTimeOn.BackColor = kWhite;
@@ -66,24 +81,12 @@ void frmPlaylist::WriteSetting(const std::string& key, const std::string& value)
   station_.stores.SettingsIni.WriteValue("Playlist", key, value);
 }
 
-void frmPlaylist::KeepOption(CheckBox& box, const std::string& key) {
-  box.Click.Connect([this, &box, key] { WriteSetting(key, std::to_string(box.Value)); });
-}
-
 void frmPlaylist::LoadConfig() {
-  const auto take = [this](CheckBox& box, const std::string& key) { box.Value = Setting(key) == "1" ? 1 : 0; };
   SkippingFailures([this] { txtPath.Text = Setting("FolderPath"); }, [this] { FileList.Path = Setting("FolderPath"); },
                    [this] { FileQuick.Path = Setting("QuickPlayPath"); });
-  take(chkPreview, "ClickTOPlay");
-  take(chkTime, "TimeON");
-  take(chkDaySchedule, "DaySchdule");
-  take(chkLastPlay, "LastPlay");
-  take(chkFolderPlay, "PlayLocation");
-  take(chkRendomPlay, "RendomPlay");
+  for (const auto& option : kOptions) (this->*option.box).Value = Setting(option.key) == "1" ? 1 : 0;
   ApplyTimeSchedule();
   ApplyDaySchedule();
-  take(chkOneAfterAnother, "OneAfterAnother");
-  take(ChkQuickPlay, "QuickPlay");
   Player.stretchToFit = true;
   const std::string pattern = station_.stores.SettingsIni.ReadValue("Settings", "Ext", "");
   FileList.Pattern = pattern;

@@ -77,11 +77,15 @@ class frmPlaylist : public Form {
   CommandButton btnCreatePlaylist{*this, "btnCreatePlaylist"};
   TextBox Text1{*this, "Text1"};
 
+  // In turn: shows the clock; plays the next item once, but nothing enables it; keeps the slider at the place of the
+  // item on the air; records that place for the next start; seeks to the recorded place, once.
   Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), Timer::kEnabled, TickPhase::kWallSecond};
   Timer Timer2{*this, "Timer2", std::chrono::milliseconds(1000), Timer::kDisabled};
   Timer Timer3{*this, "Timer3", std::chrono::milliseconds(1000), Timer::kEnabled};
   Timer Timer4{*this, "Timer4", std::chrono::milliseconds(1000), Timer::kDisabled};
   Timer Timer5{*this, "Timer5", std::chrono::milliseconds(500), Timer::kEnabled};
+  // Looks for the row that starts this second; for the playlist that is due; for the duration of the chosen file;
+  // nothing uses the last.
   Timer TimerFind{*this, "TimerFind", std::chrono::milliseconds(1000), Timer::kEnabled, TickPhase::kWallSecond};
   Timer TimerDay{*this, "TimerDay", std::chrono::milliseconds(100), Timer::kEnabled};
   Timer TimerGetDuration{*this, "TimerGetDuration", std::chrono::milliseconds(100), Timer::kDisabled};
@@ -129,7 +133,6 @@ class frmPlaylist : public Form {
 
   std::string Setting(const std::string& key) const;
   void WriteSetting(const std::string& key, const std::string& value);
-  void KeepOption(CheckBox& box, const std::string& key);
   void ApplyTimeSchedule();
   void ApplyDaySchedule();
   void Timer1_Tick();

@@ -12,7 +12,7 @@ class frmLoad : public Form {
   explicit frmLoad(Station& station);
 
   CommandButton Command1{*this, "Command1"};  // ends the process, with nothing restored
-  Timer Timer1{*this, "Timer1", std::chrono::milliseconds(2000), Timer::kEnabled};
+  Timer Timer1{*this, "Timer1", std::chrono::milliseconds(2000), Timer::kEnabled};  // brings the control window up
 
  protected:
   void Load() override;
