@@ -143,7 +143,6 @@ class frmPlaylist : public Form {
 
   void FilePlaylist_Click();
   void FileList_Click();
-  void FileQuick_Click();
   void ListPlay_Click();
   void TimerFind_Tick();
   void TimerDay_Tick();
