@@ -3,7 +3,7 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
-Graphics ChooseGraphics() {
+void ChooseGraphics() {
   // A pixel of the station is a pixel of the display, whatever size of text the desktop is set to: what is laid out for
   // the monitor must fill it exactly. Texts of the operator's forms still follow the desktop.
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
@@ -12,5 +12,4 @@ Graphics ChooseGraphics() {
   // The media surface hands its pictures over as images, which the software scene takes as they are. Until it can
   // render into OpenGL's own textures, a graphics card would only add a copy of each picture.
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  return Graphics::kSoftware;
 }

@@ -23,17 +23,13 @@
 
 struct QtWorld::Parts {
   Parts(int& argc, char** argv)
-      : graphics(ChooseGraphics()),
-        application(argc, argv),
-        media(graphics == Graphics::kSoftware ? MpvEngine::Decoding::kSoftware
-                                              : MpvEngine::Decoding::kHardwareWhereThereIs),
+      : application((ChooseGraphics(), argc), argv),
         windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}) {
     application.setApplicationName("corvanta");
     application.setQuitOnLastWindowClosed(false);
     WearLook(application);
   }
 
-  Graphics graphics;  // chosen before there is an application
   StationApplication application;
   std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
   QtClock clock;

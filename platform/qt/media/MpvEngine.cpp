@@ -6,7 +6,7 @@
 MpvEngine::~MpvEngine() { MpvInstance::AwaitRest(std::chrono::seconds(2)); }
 
 std::unique_ptr<MediaPlayer> MpvEngine::NewPlayer(const std::string& name, MediaListener& listener) {
-  auto player = std::make_unique<MpvPlayer>(listener, decoding_ == Decoding::kHardwareWhereThereIs);
+  auto player = std::make_unique<MpvPlayer>(listener);
   player->setObjectName(QString::fromStdString(name));
   return player;
 }

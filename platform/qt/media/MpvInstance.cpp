@@ -26,14 +26,12 @@ Resting& TheResting() {
 
 }  // namespace
 
-MpvInstance::MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding,
-                         std::function<void()> wakeUp)
+MpvInstance::MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, std::function<void()> wakeUp)
     : wakeUp_(std::move(wakeUp)) {
   std::setlocale(LC_NUMERIC, "C");  // mpv reads its numbers by it and refuses to start otherwise
   mpv_ = mpv_create();
   if (mpv_ == nullptr) throw std::runtime_error("No media player can be made.");
   for (const auto& [name, value] : mpv_names::kOptions) mpv_set_option_string(mpv_, name, value);
-  mpv_set_option_string(mpv_, mpv_names::kHwdec, hardwareDecoding ? "auto-copy-safe" : "no");
   if (mpv_initialize(mpv_) < 0) {
     mpv_terminate_destroy(mpv_);
     throw std::runtime_error("No media player can be started.");

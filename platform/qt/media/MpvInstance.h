@@ -16,11 +16,9 @@
 // are queued, and what is left of an instance is put to rest by a thread of its own.
 class MpvInstance {
  public:
-  // `wakeUp` is called on a thread of mpv's when events wait. With `hardwareDecoding` a decoder of the graphics card
-  // is used where there is one.
-  // Throws std::runtime_error where mpv cannot start. `name` is the player's.
-  MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, bool hardwareDecoding,
-              std::function<void()> wakeUp);
+  // `wakeUp` is called on a thread of mpv's when events wait; `name` is the player's. Throws std::runtime_error where
+  // mpv cannot start.
+  MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, std::function<void()> wakeUp);
   // Silent and black at once; no further `wakeUp`.
   ~MpvInstance();
   MpvInstance(const MpvInstance&) = delete;

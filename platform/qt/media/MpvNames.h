@@ -13,12 +13,12 @@ inline constexpr char kTimePos[] = "time-pos";
 inline constexpr char kDuration[] = "duration";
 inline constexpr char kPausedForCache[] = "paused-for-cache";
 inline constexpr char kVideoUnscaled[] = "video-unscaled";
-inline constexpr char kHwdec[] = "hwdec";
 
 // A player is a surface and nothing else: it reads no configuration, takes no keys, draws no controls, and stays alive
 // between items.
 inline constexpr auto kOptions = std::to_array<std::pair<const char*, const char*>>({
     {"vo", "libmpv"},
+    {"hwdec", "no"},
     {"idle", "yes"},
     {"config", "no"},
     {"load-scripts", "no"},

@@ -39,8 +39,7 @@ std::optional<std::int64_t> EntryOf(const mpv_node& result) {
 
 }  // namespace
 
-MpvPlayer::MpvPlayer(MediaListener& listener, bool hardwareDecoding)
-    : listener_(listener), hardwareDecoding_(hardwareDecoding) {}
+MpvPlayer::MpvPlayer(MediaListener& listener) : listener_(listener) {}
 
 MpvPlayer::~MpvPlayer() = default;
 
@@ -54,7 +53,7 @@ bool MpvPlayer::HasInstance() {
     QMetaObject::invokeMethod(this, &MpvPlayer::FetchEvents, Qt::QueuedConnection);
   };
   try {
-    mpv_ = std::make_unique<MpvInstance>(name, frames_.Exchange(), hardwareDecoding_, wakeUp);
+    mpv_ = std::make_unique<MpvInstance>(name, frames_.Exchange(), wakeUp);
   } catch (const std::exception& fault) {
     TellFault(name, fault.what());
     return false;

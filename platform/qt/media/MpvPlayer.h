@@ -15,7 +15,7 @@
 // events are fetched there, every call to mpv is queued, and every answer is given from what the events have told.
 class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
  public:
-  MpvPlayer(MediaListener& listener, bool hardwareDecoding);
+  explicit MpvPlayer(MediaListener& listener);
   ~MpvPlayer() override;
 
   void Open(const std::string& url) override;
@@ -59,7 +59,6 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void Tell(const mpv_event_property& property);
 
   MediaListener& listener_;
-  bool hardwareDecoding_;
   FrameSource frames_;
   std::atomic<bool> eventsWait_ = false;
   std::unique_ptr<MpvInstance> mpv_;

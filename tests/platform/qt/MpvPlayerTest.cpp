@@ -46,7 +46,7 @@ class MpvPlayerTest : public testing::Test {
   FrameSource& Source() { return dynamic_cast<ShowsFrames&>(*player).Frames(); }
 
   Heard heard;
-  MpvEngine engine{MpvEngine::Decoding::kSoftware};
+  MpvEngine engine;
   std::unique_ptr<MediaPlayer> player = engine.NewPlayer("player", heard);
 };
 

@@ -83,7 +83,7 @@ class OnAirWindowTest : public testing::Test, public Windows {
   PictureLoader loader;
   Scene scene{scheduler, loader};
   PosixFiles files;
-  MpvEngine media{MpvEngine::Decoding::kSoftware};
+  MpvEngine media;
   QtFlash flash;
   QtPictures pictures;
   QPointer<QQuickWindow> window;

@@ -68,7 +68,7 @@ class RealWorld {
   QtClock clock_;
   QtScheduler scheduler_;
   PosixFiles files_;
-  MpvEngine media_{MpvEngine::Decoding::kSoftware};
+  MpvEngine media_;
   QtFlash flash_;
   QtPictures pictures_;
   SimWorld rest_;
