@@ -3,11 +3,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/WholeNumber.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
 
-int Pixels(Twips measure) { return static_cast<int>(std::lround(measure / kTwipsPerPixel)); }
+// Far beyond any screen, and two of them can still be added up.
+constexpr double kFarthest = 1e9;
+
+int Pixels(Twips measure) {
+  return CutToWhole<int>(std::round(std::clamp(measure / kTwipsPerPixel, -kFarthest, kFarthest)));
+}
 
 void MoveWindow(Form& form, int left, int top) {
   form.Left = left * kTwipsPerPixel;

@@ -2,6 +2,7 @@
 
 #include "output/frmPlayer.h"
 #include "platform/Clock.h"
+#include "platform/WholeNumber.h"
 #include "platform/toolkit/Failures.h"
 #include "settings/Helpers.h"
 #include "settings/Numbers.h"
@@ -114,11 +115,11 @@ void frmPlaylist::Timer1_Tick() {
 void frmPlaylist::Timer3_Tick() {
   auto& output = station_.forms.Get<frmPlayer>();
   SkippingFailures([&] { TakeDuration(output); },
-                   [&] { SldPlayer.Value = static_cast<int>(output.Player.controls.currentPosition()); });
+                   [&] { SldPlayer.Value = CutToWhole<int>(output.Player.controls.currentPosition()); });
 }
 
 void frmPlaylist::TakeDuration(frmPlayer& output) {
-  SldPlayer.Max = static_cast<int>(output.Player.currentMedia.duration());
+  SldPlayer.Max = CutToWhole<int>(output.Player.currentMedia.duration());
 }
 
 void frmPlaylist::btnBrows_Click() {

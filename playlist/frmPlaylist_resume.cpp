@@ -1,7 +1,6 @@
 // Coming back on the air where the station stopped, and the probe for a chosen file's duration.
-#include <algorithm>
-
 #include "output/frmPlayer.h"
+#include "platform/WholeNumber.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/PlaylistText.h"
 #include "playlist/frmPlaylist.h"
@@ -17,7 +16,7 @@ void frmPlaylist::ConnectResume() {
 
 void frmPlaylist::Timer4_Tick() {
   const double position = station_.forms.Get<frmPlayer>().Player.controls.currentPosition();
-  SkippingFailures([&] { SldPlayer.Value = static_cast<int>(position); });
+  SkippingFailures([&] { SldPlayer.Value = CutToWhole<int>(position); });
   if (!chkLastPlay.Ticked()) return;
   const auto selectedRow = [this] {
     ListPlay.Selected();  // fails while no row is selected, and the key keeps what it has
@@ -35,7 +34,7 @@ void frmPlaylist::Timer4_Tick() {
 // In list play too the number lands in FolderIndex, and ListCursor stays 0: the item after the restored one is row 1.
 // Meant so.
 void frmPlaylist::RestoreLastPlay() {
-  const auto number = [this](const char* key) { return static_cast<int>(std::clamp(Val(Setting(key)), -1e9, 1e9)); };
+  const auto number = [this](const char* key) { return CutToWhole<int>(Val(Setting(key))); };
   if (chkFolderPlay.Ticked()) {
     FolderIndex = number("LastPlayFolder");
     SkippingFailures([this] { FileList.ListIndex = FolderIndex; });

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/WholeNumber.h"
+
 using std::chrono::nanoseconds;
 
 namespace {
 
-nanoseconds Nanoseconds(double seconds) { return nanoseconds(static_cast<std::int64_t>(seconds * 1e9)); }
+nanoseconds Nanoseconds(double seconds) { return nanoseconds(CutToWhole<std::int64_t>(seconds * 1e9)); }
 
 }  // namespace
 

@@ -51,6 +51,13 @@ TEST_F(MonitorsTest, AMonitorThatWasUnpluggedAndIsBackStillCountsAsTheWindowsOwn
   EXPECT_EQ(Place(), (At{2000, 10}));
 }
 
+TEST_F(MonitorsTest, AWindowAtNoPlaceOfThisWorldIsOnNoMonitorAndStaysPut) {
+  TwoMonitors();
+  Output().Left = 1e300;
+  Output().MoveTo(2);
+  EXPECT_EQ(Output().Left, 1e300);
+}
+
 TEST_F(MonitorsTest, AWindowAtANegativeOffsetIsCentredAllTheSame) {
   TwoMonitors();
   PlaceAt(-200, -100);

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "tests/StationTest.h"
 
 using namespace std::chrono_literals;
@@ -166,6 +168,40 @@ TEST_F(ResumeTest, APositionBeyondTheEndOrOfNoNumberIsNoMessage) {
     Restart();
     Advance(3s);
     for (const std::string& line : sim.trace.Take()) EXPECT_FALSE(line.starts_with("box")) << line;
+  }
+}
+
+TEST_F(ResumeTest, APositionBeyondAllNumbersIsBeyondTheEnd) {
+  for (const char* position : {"1e300", "99999999999999999999", "-1e300"}) {
+    Three();
+    Set("Playlist", "LastPlay", "1");
+    Set("Playlist", "LastPlaySchdule", "2");
+    Set("Playlist", "LastPositionSchdule", position);
+    Restart();
+    Advance(3s);
+    const bool fromTheStart = position[0] == '-';
+    EXPECT_EQ(NextOutput().Player.playState(), fromTheStart ? 3 : 8) << position;
+  }
+}
+
+TEST_F(ResumeTest, APositionBeyondAllNumbersInAStreamPutsTheSliderAtItsEnd) {
+  Playlist("Day.plt", {Clip("endless", 0)});
+  Set("Playlist", "LastPlay", "1");
+  Set("Playlist", "LastPlaySchdule", "1");
+  Set("Playlist", "LastPositionSchdule", "1e300");
+  Restart();
+  Advance(3s);
+  EXPECT_EQ(NextPlaylists().SldPlayer.Value.Get(), std::numeric_limits<int>::max());
+}
+
+TEST_F(ResumeTest, ARowBeyondAllNumbersStartsNothing) {
+  for (const char* row : {"1e300", "-1e300", "4294967298"}) {
+    Three();
+    Set("Playlist", "LastPlay", "1");
+    Set("Playlist", "LastPlaySchdule", row);
+    Restart();
+    Advance(3s);
+    EXPECT_EQ(Aired(), Names{}) << row;
   }
 }
 

@@ -2,11 +2,13 @@
 
 #include <QList>
 #include <QRect>
+#include <cmath>
 
+#include "platform/WholeNumber.h"
 #include "platform/toolkit/Measures.h"
 
 // Twips of the forms and pixels of the screen meet here alone.
-inline int Pixels(Twips twips) { return qRound(twips / kTwipsPerPixel); }
+inline int Pixels(Twips twips) { return CutToWhole<int>(std::round(twips / kTwipsPerPixel)); }
 inline Twips ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
 
 // Where a window goes that is to stand at `wanted`: there, if enough of its upper edge is on a screen to take hold of;

@@ -3,9 +3,10 @@
 #include <QMouseEvent>
 #include <cmath>
 
+#include "platform/WholeNumber.h"
 #include "platform/qt/Pressed.h"
 
-int ToPixels(Twips twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
+int ToPixels(Twips twips) { return CutToWhole<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
 
 ControlItem::ControlItem(Control& control, QQuickItem& parent) : QQuickItem(&parent), control_(&control) {
   setFlag(ItemHasContents);
