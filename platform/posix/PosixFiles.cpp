@@ -7,12 +7,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 
 #include "platform/CaseFold.h"
 #include "platform/posix/FileHandle.h"
 #include "platform/posix/Flusher.h"
 #include "platform/posix/PosixWatch.h"
+#include "platform/posix/RawFile.h"
 #include "platform/posix/ReadAll.h"
 #include "platform/posix/RecoverFolder.h"
 #include "platform/posix/ResolvePath.h"
@@ -25,35 +25,12 @@ FileKind KindOf(const struct stat& status) {
   return S_ISDIR(status.st_mode) ? FileKind::kFolder : FileKind::kOther;
 }
 
-// Opens without waiting: a pipe that somebody left in a file's place must not stop the station.
-FileHandle OpenForReading(const std::string& path) {
-  return FileHandle(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-}
-
-bool WriteAll(int descriptor, const std::string& content) {
-  for (std::size_t done = 0; done < content.size();) {
-    const ssize_t wrote = write(descriptor, content.data() + done, content.size() - done);
-    if (wrote < 0 && errno == EINTR) continue;
-    if (wrote <= 0) return false;
-    done += static_cast<std::size_t>(wrote);
-  }
-  return true;
-}
-
 // Makes a file of that content; `mode` below 0 leaves the permissions to the system.
 bool WriteFile(const std::string& path, const std::string& content, int mode) {
   FileHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
   if (!file.IsOpen()) return false;
   if (mode >= 0) fchmod(file.Get(), static_cast<mode_t>(mode));
   return WriteAll(file.Get(), content) && file.Close();
-}
-
-// A link stays a link: what is replaced is the file it leads to.
-std::string BehindLinks(const std::string& path) {
-  struct stat status;
-  if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
-  const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), free);
-  return real == nullptr ? path : real.get();
 }
 
 bool RemoveTreeAt(int parent, const char* name) {

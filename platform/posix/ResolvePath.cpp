@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 #include "platform/CaseFold.h"
@@ -54,6 +55,13 @@ std::string ResolvePath(const std::string& path) {
   std::string mapped = path;
   std::ranges::replace(mapped, '\\', '/');
   return ResolveParts(mapped);
+}
+
+std::string BehindLinks(const std::string& path) {
+  struct stat status;
+  if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
+  const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), free);
+  return real == nullptr ? path : real.get();
 }
 
 std::string FolderOfPath(const std::string& path) {
