@@ -61,7 +61,7 @@ frmPlayer::frmPlayer(Station& station)
   Player.CurrentMediaChange.Connect([this] { MediaOpened.Raise(); });
   AdPlayer.PlayStateChange.Connect([this] { AdPlayer_PlayStateChange(); });
 
-  MouseDown.Connect([this](MouseButton) { Window()->DragWindow([] {}); });
+  MouseDown.Connect([this](const MousePlace&) { Window()->DragWindow([] {}); });
   pic.MouseDown.Connect([this](MouseButton) { DragBand(); });
   PicAd.MouseDown.Connect([this](MouseButton) { DragBand(); });
   picNext.MouseDown.Connect([this](MouseButton) { Timer4.Enabled = true; });

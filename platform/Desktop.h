@@ -18,6 +18,12 @@ class Desktop {
   virtual void SetTaskbarVisible(bool show) = 0;
   // Counts up or down, from 0; the cursor is blank while the count is below 0.
   virtual void ShowCursor(bool show) = 0;
+  // Darkens the screens until a key or the mouse is touched; nothing of the station stops.
+  virtual void TurnOffMonitor() = 0;
+  // Starts a program beside the station, in its own folder; one that is named with ".exe" may stand there without.
+  virtual void StartTool(const std::string& path) = 0;
+  // Shows the operator guide in a window.
+  virtual void ShowGuide() = 0;
   // Ends the process at once; no form is unloaded. Returns in the virtual world only.
   virtual void EndProcess() = 0;
 };

@@ -27,6 +27,10 @@ class Scheduler {
   // Ends a timer; from inside its own tick too. An unknown id is ignored.
   virtual void Cancel(Id id) = 0;
 
+  // Runs the ticks that are due by now, in the middle of a handler that takes long; nothing that was posted, and no
+  // operator's event.
+  virtual void Yield() = 0;
+
   // Calls `work` once, as soon as the handler that runs now has returned, in the order posted.
   virtual void Post(Tick work) = 0;
 };

@@ -8,6 +8,7 @@
 
 class Control;
 class Form;
+class MenuItem;
 
 // The real window behind a form. It follows the form's and the controls' properties by observing them, and tells the
 // form what the operator does. When it goes, the window is off the screen.
@@ -21,6 +22,10 @@ class FormWindow {
   virtual void DragWindow(std::function<void()> done) = 0;
   // The same for one pane inside the window.
   virtual void DragPane(Control& pane, std::function<void()> done) = 0;
+  // Follows the pointer, until the button is released: `moved` is told how far it is from where the button went down.
+  virtual void FollowPointer(std::function<void(Twips right, Twips down)> moved) = 0;
+  // Opens a menu of the form at the pointer, and returns at once.
+  virtual void PopUp(const MenuItem& menu) = 0;
 };
 
 // The window system.

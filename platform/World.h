@@ -7,6 +7,7 @@ class Files;
 class FlashEngine;
 class MediaEngine;
 class Monitors;
+class Network;
 class Pictures;
 class Scheduler;
 class Windows;
@@ -23,4 +24,5 @@ struct World {
   Dialogs& dialogs;
   Desktop& desktop;
   Monitors& monitors;
+  Network& network;
 };

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <optional>
 
-#include "platform/toolkit/Control.h"
+#include "platform/toolkit/Form.h"
 
 // The button, as forms know it, when the event is the press of one.
 inline std::optional<MouseButton> Pressed(const QEvent& event) {
@@ -18,4 +19,28 @@ inline std::optional<MouseButton> Pressed(const QEvent& event) {
     default:
       return {};
   }
+}
+
+// Where on a form the pointer is. Qt's buttons bear the numbers of the forms' own.
+inline MousePlace PlaceOn(QPointF pixels, Qt::MouseButtons buttons) {
+  constexpr int kKnown = Qt::LeftButton | Qt::RightButton | Qt::MiddleButton;
+  return {pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel, static_cast<int>(buttons) & kKnown};
+}
+
+inline QCursor ShapeOf(MousePointer pointer) {
+  switch (pointer) {
+    case MousePointer::kSizeNESW:
+      return Qt::SizeBDiagCursor;
+    case MousePointer::kSizeNS:
+      return Qt::SizeVerCursor;
+    case MousePointer::kSizeNWSE:
+      return Qt::SizeFDiagCursor;
+    case MousePointer::kSizeWE:
+      return Qt::SizeHorCursor;
+    case MousePointer::kMove:
+      return Qt::SizeAllCursor;
+    case MousePointer::kDefault:
+      break;
+  }
+  return Qt::ArrowCursor;
 }

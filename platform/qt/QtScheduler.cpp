@@ -44,6 +44,12 @@ void QtScheduler::Cancel(Id id) {
   Arm();
 }
 
+void QtScheduler::Yield() {
+  QueueWhatIsDue(SteadyNow());
+  RunQueue();
+  Arm();  // what is to follow the ticks of a frame waits for the handler
+}
+
 void QtScheduler::Post(Tick work) { QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection); }
 
 void QtScheduler::OnNextFrame(Tick work) {

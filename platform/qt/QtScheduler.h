@@ -18,6 +18,7 @@ class QtScheduler : public QObject, public Scheduler {
 
   Id Start(std::chrono::milliseconds interval, TickPhase phase, Tick tick) override;
   void Cancel(Id id) override;
+  void Yield() override;
   void Post(Tick work) override;
 
   // Calls `work` once, at the next output frame, after the ticks of that frame: what it changes is painted with them.

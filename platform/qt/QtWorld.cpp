@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixNetwork.h"
 #include "platform/qt/GraphicsChoice.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
@@ -24,7 +25,8 @@
 struct QtWorld::Parts {
   Parts(int& argc, char** argv)
       : application((ChooseGraphics(), argc), argv),
-        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewPreviewWidget}) {
+        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); },
+                {NewPreviewWidget, &loader}) {
     application.setApplicationName("corvanta");
     application.setQuitOnLastWindowClosed(false);
     WearLook(application);
@@ -44,13 +46,14 @@ struct QtWorld::Parts {
   QtDialogs dialogs;
   QtDesktop desktop;
   QtMonitors monitors;
+  PosixNetwork network;
 };
 
 QtWorld::QtWorld(int& argc, char** argv)
-    : parts_(std::make_unique<Parts>(argc, argv)), world{parts_->clock,   parts_->scheduler, parts_->files,
-                                                         parts_->media,   parts_->flash,     parts_->pictures,
-                                                         parts_->windows, parts_->dialogs,   parts_->desktop,
-                                                         parts_->monitors} {}
+    : parts_(std::make_unique<Parts>(argc, argv)), world{parts_->clock,    parts_->scheduler, parts_->files,
+                                                         parts_->media,    parts_->flash,     parts_->pictures,
+                                                         parts_->windows,  parts_->dialogs,   parts_->desktop,
+                                                         parts_->monitors, parts_->network} {}
 
 QtWorld::~QtWorld() = default;
 

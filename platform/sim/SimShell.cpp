@@ -1,8 +1,15 @@
 #include "platform/sim/SimShell.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "platform/CaseFold.h"
+#include "platform/sim/SimFiles.h"
+#include "platform/sim/SimTime.h"
+
 namespace {
+
+constexpr std::chrono::milliseconds kCopyBoxAfter{500};
 
 template <class T>
 T TakeFirst(std::deque<T>& queue, T otherwise) {
@@ -32,6 +39,29 @@ std::string SimDialogs::BrowseFolder(const std::string& title, const std::string
   return TakeFirst(folders, std::string());
 }
 
+std::string SimDialogs::OpenFile(const std::string& title, const std::string& filter) {
+  trace_.Add("open \"" + title + "\" \"" + filter + "\"");
+  if (whileStanding) whileStanding();
+  return TakeFirst(files, std::string());
+}
+
+CopyResult SimDialogs::CopyFile(const std::string& from, const std::string& to) {
+  trace_.Add("copy " + from + " to " + to);
+  const auto cancel = std::exchange(cancelsCopyAfter, std::nullopt);
+  const auto content = files_.Read(from);
+  if (!content) return CopyResult::kFailed;
+  if (FoldCase(from) == FoldCase(to)) return CopyResult::kCopied;
+  time_.Advance(std::min<std::chrono::nanoseconds>(copyTakes, kCopyBoxAfter));
+  if (copyTakes > kCopyBoxAfter) {
+    trace_.Add("copy box");
+    if (whileStanding) whileStanding();
+    const bool cancelled = cancel && *cancel < copyTakes;
+    time_.Advance(std::max<std::chrono::nanoseconds>(cancelled ? *cancel : copyTakes, kCopyBoxAfter) - kCopyBoxAfter);
+    if (cancelled) return CopyResult::kCancelled;
+  }
+  return files_.Replace(to, *content) ? CopyResult::kCopied : CopyResult::kFailed;
+}
+
 void SimDesktop::RunAtLogOn(const std::string& name, const std::string& command) {
   trace_.Add("run at log-on \"" + name + "\" " + command);
 }
@@ -52,6 +82,12 @@ void SimDesktop::ShowCursor(bool show) {
   trace_.Add(show ? "cursor up" : "cursor down");
   cursorCount += show ? 1 : -1;
 }
+
+void SimDesktop::TurnOffMonitor() { trace_.Add("monitor off"); }
+
+void SimDesktop::StartTool(const std::string& path) { trace_.Add("tool " + path); }
+
+void SimDesktop::ShowGuide() { trace_.Add("guide"); }
 
 void SimDesktop::EndProcess() {
   trace_.Add("process ends");

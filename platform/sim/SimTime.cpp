@@ -72,8 +72,13 @@ void SimTime::RunPosted() {
 void SimTime::AdvanceTo(const DateTime& moment) { Advance(SinceEpoch(moment) - wall_ - now_); }
 
 void SimTime::Advance(nanoseconds duration) {
-  const nanoseconds target = now_ + duration;
   RunPosted();
+  RunUntil(now_ + duration, Between::kPosted);
+}
+
+void SimTime::Yield() { RunUntil(now_ + yieldTakes, Between::kNothing); }
+
+void SimTime::RunUntil(nanoseconds target, Between ticks) {
   while (!due_.empty() && due_.begin()->first.first <= target) {
     Armed armed = std::move(due_.begin()->second);
     // A tick that came late, behind a dialog, counts from the moment it runs: the missed ones are not made up.
@@ -82,7 +87,7 @@ void SimTime::Advance(nanoseconds duration) {
     const auto tick = armed.tick;
     Arm(std::move(armed));
     (*tick)();
-    RunPosted();
+    if (ticks == Between::kPosted) RunPosted();
   }
   now_ = std::max(now_, target);
 }

@@ -23,6 +23,7 @@ class SimTime : public Clock, public Scheduler {
 
   Id Start(std::chrono::milliseconds interval, TickPhase phase, Tick tick) override;
   void Cancel(Id id) override;
+  void Yield() override;
   void Post(Tick work) override;
 
   // Lets time pass. May be called from inside a tick: that is how ticks run while a dialog stands.
@@ -34,6 +35,9 @@ class SimTime : public Clock, public Scheduler {
   // Lets time pass until the wall clock shows the moment, which must not lie behind it.
   void AdvanceTo(const DateTime& moment);
 
+  // How long the handler that yields has taken since its last yield.
+  std::chrono::nanoseconds yieldTakes{0};
+
  private:
   struct Armed {
     Id id;
@@ -44,6 +48,8 @@ class SimTime : public Clock, public Scheduler {
   using Due = std::pair<std::chrono::nanoseconds, std::uint64_t>;  // when, and the order of arming
 
   void Arm(Armed armed);
+  enum class Between { kNothing, kPosted };
+  void RunUntil(std::chrono::nanoseconds target, Between ticks);
   void RunPosted();
 
   std::chrono::nanoseconds now_{0};

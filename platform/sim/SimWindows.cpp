@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/MenuItem.h"
 
 class SimWindow : public FormWindow {
  public:
@@ -21,6 +22,11 @@ class SimWindow : public FormWindow {
     Tell(pane.Name() + " dragged");
     windows_.dragDone_ = std::move(done);
   }
+  void FollowPointer(std::function<void(Twips, Twips)> moved) override { windows_.dragMoved_ = std::move(moved); }
+  void PopUp(const MenuItem& menu) override {
+    Tell("opens " + menu.Name());
+    windows_.popUp = form_.Name() + "." + menu.Name();
+  }
 
  private:
   void Tell(const std::string& what) { windows_.trace_.Add(form_.Name() + " " + what); }
@@ -32,6 +38,11 @@ class SimWindow : public FormWindow {
 
 std::unique_ptr<FormWindow> SimWindows::Create(Form& form) { return std::make_unique<SimWindow>(*this, form); }
 
+void SimWindows::MovePointer(Twips right, Twips down) {
+  if (dragMoved_) dragMoved_(right, down);
+}
+
 void SimWindows::EndDrag() {
+  dragMoved_ = nullptr;
   if (const auto done = std::exchange(dragDone_, nullptr)) done();
 }

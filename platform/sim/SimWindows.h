@@ -14,16 +14,21 @@ class SimWindows : public Windows {
   std::unique_ptr<FormWindow> Create(Form& form) override;
   PixelSize ScreenSize() const override { return screenSize; }
 
+  // Moves the pointer of the drag that is under way, so far from where the button went down.
+  void MovePointer(Twips right, Twips down);
   // Lets go of the button of the drag that is under way.
   void EndDrag();
 
   PixelSize screenSize{1920, 1080};
   // The control that was given the keyboard last, as "form.control".
   std::string focus;
+  // The menu that was opened last, as "form.menu".
+  std::string popUp;
 
  private:
   friend class SimWindow;
 
   SimTrace& trace_;
+  std::function<void(Twips, Twips)> dragMoved_;
   std::function<void()> dragDone_;
 };

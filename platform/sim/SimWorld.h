@@ -19,9 +19,10 @@ struct SimWorld {
   SimFlash flash{time, files, trace};
   SimPictures pictures{files};
   SimWindows windows{trace};
-  SimDialogs dialogs{trace};
+  SimDialogs dialogs{trace, time, files};
   SimDesktop desktop{trace};
   SimMonitors monitors;
+  SimNetwork network{trace};
 
-  World world{time, time, files, media, flash, pictures, windows, dialogs, desktop, monitors};
+  World world{time, time, files, media, flash, pictures, windows, dialogs, desktop, monitors, network};
 };

@@ -29,8 +29,16 @@ void Form::Close() {
   Handle({.event = "Close"}, [this] { forms_.Unload(*this); });
 }
 
-void Form::PressMouse(MouseButton button) {
-  Handle({.event = "MouseDown"}, [this, button] { MouseDown.Raise(button); });
+void Form::PressMouse(const MousePlace& place) {
+  Handle({.event = "MouseDown"}, [this, place] { MouseDown.Raise(place); });
+}
+
+void Form::MoveMouse(const MousePlace& place) {
+  Handle({.event = "MouseMove"}, [this, place] { MouseMove.Raise(place); });
+}
+
+void Form::PopUp(const MenuItem& menu) {
+  if (window_) window_->PopUp(menu);
 }
 
 Answer Form::MsgBox(const std::string& text, Buttons buttons) { return MsgBox(text, buttons, forms_.StandardTitle()); }
@@ -48,6 +56,16 @@ std::string Form::InputBox(const std::string& prompt, const std::string& title) 
 std::string Form::BrowseFolder(const std::string& title, const std::string& start) {
   const Counted standing(handlersRunning_);
   return Outside().dialogs.BrowseFolder(title, Outside().files.Resolve(start));
+}
+
+std::string Form::OpenFile(const std::string& title, const std::string& filter) {
+  const Counted standing(handlersRunning_);
+  return Outside().dialogs.OpenFile(title, filter);
+}
+
+CopyResult Form::CopyFile(const std::string& from, const std::string& to) {
+  const Counted standing(handlersRunning_);
+  return Outside().dialogs.CopyFile(from, to);
 }
 
 void Form::Handle(const HandlerName& name, const std::function<void()>& handler) {

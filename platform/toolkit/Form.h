@@ -11,6 +11,22 @@
 #include "platform/toolkit/Forms.h"
 
 class FormWindow;
+class MenuItem;
+
+// As much of a preview's height is its frame, whatever the desktop's own frames measure.
+inline constexpr Twips kPreviewFrame = 490;
+
+// What the operator's pointer looks like over the bare form.
+enum class MousePointer { kDefault = 0, kSizeNESW = 6, kSizeNS = 7, kSizeNWSE = 8, kSizeWE = 9, kMove = 15 };
+
+// Where the pointer is on a form, from its left top corner, and which buttons are down: the sum of their MouseButton.
+struct MousePlace {
+  Twips x = 0;
+  Twips y = 0;
+  int buttons = 0;
+
+  bool Down(MouseButton button) const { return (buttons & static_cast<int>(button)) != 0; }
+};
 
 // One window of the system with its controls: an observable object that draws nothing itself. There is at most one
 // instance of each form; see Forms.
@@ -19,6 +35,7 @@ class Form {
   enum class Kind {
     kOperator,  // drawn from the layout file of its name
     kOnAir,     // borderless, drawn from the controls' own measures
+    kPreview,   // drawn like kOnAir, before the operator, in a frame with a title bar whose box closes it
   };
 
   Form(Forms& forms, std::string name, Kind kind);
@@ -42,7 +59,10 @@ class Form {
   void Focus(const Control& control);
   // The operator asks to close the window.
   void Close();
-  void PressMouse(MouseButton button);
+  void PressMouse(const MousePlace& place);
+  void MoveMouse(const MousePlace& place);
+  // Opens a menu of the form at the pointer.
+  void PopUp(const MenuItem& menu);
 
   // Stands before the operator until answered; timers tick on meanwhile. Without a title of its own it has the standard
   // one.
@@ -50,6 +70,8 @@ class Form {
   Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title);
   std::string InputBox(const std::string& prompt, const std::string& title);
   std::string BrowseFolder(const std::string& title, const std::string& start);
+  std::string OpenFile(const std::string& title, const std::string& filter);
+  CopyResult CopyFile(const std::string& from, const std::string& to);
 
   // Runs a handler as every tick and operator's event is run: a failure that nothing skipped ends the handler and
   // shows one message box; what nobody foresaw (memory that is out, a fault of ours) ends it too, and is said on
@@ -68,7 +90,10 @@ class Form {
   Property<Twips> Width;
   Property<Twips> Height;
 
-  Event<MouseButton> MouseDown;
+  Property<MousePointer> Pointer{MousePointer::kDefault};
+
+  Event<const MousePlace&> MouseDown;
+  Event<const MousePlace&> MouseMove;
   Event<> ShowAsked;  // also of a form that is visible
 
  protected:

@@ -20,3 +20,9 @@ class MenuItem : public Component {
   Property<bool> Checked{false};
   Event<> Click;
 };
+
+// A line between the entries of a menu that bears a name.
+class MenuSeparator : public Component {
+ public:
+  using Component::Component;
+};

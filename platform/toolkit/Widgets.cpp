@@ -19,6 +19,23 @@ void TextBox::Type(const std::string& text) {
   Handle("Change", [this] { Change.Raise(); });
 }
 
+ComboBox::ComboBox(Form& form, std::string name)
+    : Control(form, std::move(name)), ListIndex(-1, [this](int index) {
+        const std::string text = index == -1 ? std::string() : List(index);
+        ListIndex.Store(index);
+        Text = text;
+      }) {
+  Text.Changed.Connect([this] {
+    if (ListIndex != -1 && Text.Get() != List(ListIndex)) ListIndex.Store(-1);
+  });
+}
+
+void ComboBox::Clear() {
+  ListIndex = -1;
+  items_.clear();
+  ItemsChanged.Raise();
+}
+
 void ComboBox::AddItem(const std::string& item) {
   items_.push_back(item);
   ItemsChanged.Raise();
@@ -31,15 +48,22 @@ const std::string& ComboBox::List(int index) const {
 
 void ComboBox::Pick(int index) {
   Handle("Click", [this, index] {
-    Text = List(index);
+    List(index);  // fails for an item that is none
+    ListIndex = index;
     Click.Raise();
   });
 }
 
 void ComboBox::Type(const std::string& text) { Text = text; }
 
-void Slider::Work(int value) {
+void Slider::Work(int value) { Take(value, "Worked", Worked); }
+
+void Slider::Move(int value) { Take(value, "Scroll", Scroll); }
+
+void Slider::LetGo(int value) { Take(value, "Click", Click); }
+
+void Slider::Take(int value, const char* name, Event<>& told) {
   if (!Enabled) return;
   Value = std::clamp(value, Min.Get(), std::max(Min.Get(), Max.Get()));
-  Handle("Worked", [this] { Worked.Raise(); });
+  Handle(name, [&told] { told.Raise(); });
 }

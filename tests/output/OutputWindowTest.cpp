@@ -355,7 +355,7 @@ TEST_F(OutputWindowTest, TheStripCanBePulledUpAndDownAndSnapsBackToTheCentre) {
 TEST_F(OutputWindowTest, APressOnTheBareFormMovesTheWindow) {
   Output();
   sim.trace.Take();
-  Output().PressMouse(MouseButton::kLeft);
+  Output().PressMouse({.buttons = 1});
   EXPECT_EQ(sim.trace.Take(), Names{"frmPlayer dragged"});
 }
 

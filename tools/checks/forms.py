@@ -5,6 +5,9 @@ import xml.etree.ElementTree
 
 # A control is a member that is handed its container and its name: `CheckBox chkTime{*this, "chkTime"}`.
 MEMBER = re.compile(r'\b([A-Z]\w+)\s+\w+\{\s*[\w*]+,\s*"(\w+)"')
+# Members of an array are handed the same, one by one: `MenuItem mnuSWF[2]{{*this, "mnuSWF_0"}, {*this, "mnuSWF_1"}}`.
+ARRAY = re.compile(r'\b[A-Z]\w+\s+\w+\[\d+\]\{(.*?)\};', re.DOTALL)
+OF_ARRAY = re.compile(r'\{\s*[\w*]+,\s*"(\w+)"')
 UNSEEN = {"Timer", "TrayIcon", "ImageList", "FormExtender"}
 # Widgets that only serve the layout: by name, and menus, which hold entries and do nothing themselves.
 LAYOUT_ONLY = re.compile(r"lay")
@@ -18,7 +21,9 @@ def check(tree):
         if header not in tree.files:
             problems.append(f"{path} has no {header.name} beside it: a form is .h, .cpp and .ui")
             continue
-        controls = {name for kind, name in MEMBER.findall(tree.read(header)) if kind not in UNSEEN}
+        declared = tree.read(header)
+        controls = {name for kind, name in MEMBER.findall(declared) if kind not in UNSEEN}
+        controls |= {name for array in ARRAY.findall(declared) for name in OF_ARRAY.findall(array)}
         widgets = widget_names(tree.root / path)
         for name in sorted(controls - widgets):
             problems.append(f"{path} has no widget {name}, a control of {header.name}")

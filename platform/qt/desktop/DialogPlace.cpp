@@ -21,7 +21,9 @@ QWidget* OperatorsWindow() {
 // What goes on air is drawn in windows that are no widgets.
 bool ShowsAir(const QScreen& screen) {
   for (const QWindow* window : QGuiApplication::topLevelWindows()) {
-    const bool onAir = window->isVisible() && !window->inherits("QWidgetWindow");
+    // A preview has a frame: it is before the operator itself.
+    const bool onAir =
+        window->isVisible() && !window->inherits("QWidgetWindow") && window->flags().testFlag(Qt::FramelessWindowHint);
     if (onAir && window->geometry().intersects(screen.geometry())) return true;
   }
   return false;

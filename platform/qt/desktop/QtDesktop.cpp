@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 
 #include "platform/qt/desktop/AutoStart.h"
+#include "platform/qt/desktop/Tools.h"
 #include "platform/qt/desktop/Xlib.h"
 
 void QtDesktop::RunAtLogOn(const std::string& name, const std::string& command) { WriteAutoStart(name, command); }
@@ -31,6 +32,12 @@ void QtDesktop::ShowCursor(bool show) {
   if (blank && !blankBefore) QGuiApplication::setOverrideCursor(QCursor(Qt::BlankCursor));
   if (!blank && blankBefore) QGuiApplication::restoreOverrideCursor();
 }
+
+void QtDesktop::TurnOffMonitor() { screenAwake_.Darken(); }
+
+void QtDesktop::StartTool(const std::string& path) { StartDetached(path); }
+
+void QtDesktop::ShowGuide() { guide_.Show(); }
 
 void QtDesktop::EndProcess() {
   // What the store has written has taken its place on the disk already; the kernel keeps it past this process.

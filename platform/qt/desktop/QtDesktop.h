@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/Desktop.h"
+#include "platform/qt/desktop/GuideWindow.h"
 #include "platform/qt/desktop/HotKeys.h"
 #include "platform/qt/desktop/ScreenAwake.h"
 #include "platform/qt/desktop/Taskbar.h"
@@ -16,11 +17,15 @@ class QtDesktop : public Desktop {
   void SetScreenSaverActive(int value) override;
   void SetTaskbarVisible(bool show) override;
   void ShowCursor(bool show) override;
+  void TurnOffMonitor() override;
+  void StartTool(const std::string& path) override;
+  void ShowGuide() override;
   void EndProcess() override;
 
  private:
   HotKeys hotKeys_;
   ScreenAwake screenAwake_;
   Taskbar taskbar_;
+  GuideWindow guide_;
   int cursorCount_ = 0;
 };

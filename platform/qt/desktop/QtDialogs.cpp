@@ -6,7 +6,27 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "platform/qt/desktop/CopyBox.h"
 #include "platform/qt/desktop/DialogPlace.h"
+
+namespace {
+
+// "Words|*.jpg;*.swf;" as Qt's dialog writes it: "Words (*.jpg *.swf)". The dialog matches without regard to case.
+QStringList ShownFilters(const QString& filter) {
+  const QStringList parts = filter.split('|');
+  QStringList shown;
+  for (int i = 0; i < parts.size(); i += 2) {
+    QStringList patterns;
+    for (const QString& pattern : parts.value(i + 1).split(';')) {
+      if (!pattern.trimmed().isEmpty()) patterns.append(pattern.trimmed());
+    }
+    if (patterns.isEmpty()) patterns.append("*");
+    shown.append(parts[i] + " (" + patterns.join(' ') + ')');
+  }
+  return shown;
+}
+
+}  // namespace
 
 Answer QtDialogs::MsgBox(const std::string& text, const std::string& title, Buttons buttons) {
   QMessageBox box;
@@ -45,3 +65,20 @@ std::string QtDialogs::BrowseFolder(const std::string& title, const std::string&
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return "";
   return QDir(box.selectedFiles().constFirst()).absolutePath().toStdString();
 }
+
+std::string QtDialogs::OpenFile(const std::string& title, const std::string& filter) {
+  QFileDialog box(nullptr, QString::fromStdString(title));
+  box.setOption(QFileDialog::DontUseNativeDialog);
+  box.setFileMode(QFileDialog::ExistingFile);
+  box.setNameFilters(ShownFilters(QString::fromStdString(filter)));
+  const QString folder = QString::fromStdString(lastFolder_);
+  box.setDirectory(!folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath());
+  PlaceBeforeOperator(box);
+  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return "";
+  const QFileInfo chosen(box.selectedFiles().constFirst());
+  if (!chosen.isFile()) return "";
+  lastFolder_ = chosen.absolutePath().toStdString();
+  return chosen.absoluteFilePath().toStdString();
+}
+
+CopyResult QtDialogs::CopyFile(const std::string& from, const std::string& to) { return CopyBehindBox(from, to); }

@@ -10,4 +10,9 @@ class QtDialogs : public Dialogs {
   Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons) override;
   std::string InputBox(const std::string& prompt, const std::string& title) override;
   std::string BrowseFolder(const std::string& title, const std::string& start) override;
+  std::string OpenFile(const std::string& title, const std::string& filter) override;
+  CopyResult CopyFile(const std::string& from, const std::string& to) override;
+
+ private:
+  std::string lastFolder_;  // where a file was chosen last
 };

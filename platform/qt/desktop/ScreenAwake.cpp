@@ -15,6 +15,8 @@ namespace {
 
 constexpr char kService[] = "org.freedesktop.ScreenSaver";
 constexpr char kPath[] = "/org/freedesktop/ScreenSaver";
+// The hand that has chosen the darkness lets go of the mouse first: that would light the screens at once.
+constexpr std::chrono::seconds kHandsOff(1);
 constexpr std::chrono::seconds kAgain(30);  // less than the shortest time that a screen can be told to blank after
 
 // Asking for a bus where there is none may start one, and takes its time.
@@ -84,9 +86,30 @@ void ScreenAwake::AskService() {
   });
 }
 
-void ScreenAwake::HoldServer() const {
+void ScreenAwake::Darken() {
+  QTimer::singleShot(kHandsOff, this, [this] {
+    Display* display = XDisplay();
+    int event = 0, error = 0;
+    if (display == nullptr || !DPMSQueryExtension(display, &event, &error)) return;
+    const XErrorTrap trap(display);
+    DPMSEnable(display);
+    DPMSForceLevel(display, DPMSModeOff);
+    dark_ = true;
+  });
+}
+
+// The server itself lights the screens when a key or the mouse is touched.
+bool ScreenAwake::StillDark() const {
+  CARD16 level = DPMSModeOn;
+  unsigned char enabled = 0;
+  return dark_ && DPMSInfo(XDisplay(), &level, &enabled) != 0 && enabled != 0 && level != DPMSModeOn;
+}
+
+void ScreenAwake::HoldServer() {
   Display* display = XDisplay();
   if (display == nullptr) return;
+  dark_ = StillDark();
+  if (dark_) return;
   const XErrorTrap trap(display);
   int event = 0, error = 0;
   XSetScreenSaver(display, 0, 0, DontPreferBlanking, DontAllowExposures);

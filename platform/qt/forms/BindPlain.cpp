@@ -8,13 +8,15 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include "platform/qt/forms/Bindings.h"
+#include "platform/qt/forms/Paint.h"
 #include "platform/qt/forms/Texts.h"
+#include "platform/qt/forms/look/Icons.h"
+#include "platform/toolkit/Form.h"
 
 namespace {
 
@@ -23,13 +25,6 @@ void FollowText(Joint& joint, Property<std::string>& text, const QString& laid,
                 std::function<void(const QString&)> show) {
   if (text.Get().empty()) text = Stored(laid);
   joint.Follow(text.Changed, [&text, show] { show(Shown(text)); });
-}
-
-void Paint(QWidget& widget, const Colour& colour) {
-  QPalette palette = widget.palette();
-  palette.setColor(QPalette::Window, QColor(colour.red, colour.green, colour.blue));
-  widget.setPalette(palette);
-  widget.setAutoFillBackground(true);
 }
 
 void IgnoreWheelWithoutFocus(Joint& joint, QWidget& widget) {
@@ -67,6 +62,8 @@ void Bind(Joint& joint, Frame& control, QGroupBox& widget, const Surfaces&) {
 
 void Bind(Joint& joint, CommandButton& control, QPushButton& widget, const Surfaces&) {
   FollowText(joint, control.Caption, widget.text(), [&widget](const QString& text) { widget.setText(text); });
+  joint.Watch(control.Picture.Changed,
+              [&] { widget.setIcon(IconOf(Shown(control.Owner().Name()), Shown(control.Picture))); });
   joint.On(&widget, &QPushButton::clicked, [&control](bool) { control.Press(); });
 }
 
@@ -92,18 +89,23 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   if (control.Text.Get().empty()) control.Text = Stored(widget.currentText());
   const auto show = [&] {
     const QString text = Shown(control.Text);
+    const int index = control.ListIndex;
+    if (index >= 0 && index < widget.count()) widget.setCurrentIndex(index);
+    if (text == widget.currentText()) return;
     if (widget.isEditable()) {
-      if (text != widget.currentText()) widget.setEditText(text);
+      widget.setEditText(text);
     } else {
-      widget.setCurrentIndex(widget.findText(text));
+      widget.setCurrentIndex(text.isEmpty() ? -1 : widget.findText(text));
     }
   };
-  // Items only ever join at the end, many at a time one by one.
+  // Items join at the end, many at a time one by one, or go all at once.
   joint.Follow(control.ItemsChanged, [&, show] {
+    if (control.ListCount() < widget.count()) widget.clear();
     for (int index = widget.count(); index < control.ListCount(); ++index) widget.addItem(Shown(control.List(index)));
     show();
   });
   joint.Watch(control.Text.Changed, show);
+  joint.Watch(control.ListIndex.Changed, show);
   joint.On(&widget, &QComboBox::activated, [&control](int index) { control.Pick(index); });
   if (widget.lineEdit() != nullptr) {
     joint.On(widget.lineEdit(), &QLineEdit::textEdited,
@@ -114,7 +116,10 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
 void Bind(Joint& joint, Slider& control, SeekSlider& widget, const Surfaces&) {
   const auto show = [&] { widget.Show(control.Min, control.Max, control.Value); };
   for (Property<int>* property : {&control.Min, &control.Max, &control.Value}) joint.Follow(property->Changed, show);
+  joint.Follow(control.LargeChange.Changed, [&] { widget.SetLargeChange(control.LargeChange); });
   joint.On(&widget, &SeekSlider::worked, [&control](int value) { control.Work(value); });
+  joint.On(&widget, &SeekSlider::moved, [&control](int value) { control.Move(value); });
+  joint.On(&widget, &SeekSlider::letGo, [&control](int value) { control.LetGo(value); });
 }
 
 void Bind(Joint& joint, DatePicker& control, QDateTimeEdit& widget, const Surfaces&) {
@@ -129,10 +134,6 @@ void Bind(Joint& joint, DatePicker& control, QDateTimeEdit& widget, const Surfac
 
 void Bind(Joint& joint, ColourPanel& control, QFrame& widget, const Surfaces&) {
   joint.Follow(control.BackColor.Changed, [&] { Paint(widget, control.BackColor); });
-}
-
-void Bind(Joint& joint, PictureBox& control, QFrame& widget, const Surfaces&) {
-  joint.Watch(control.BackColor.Changed, [&] { Paint(widget, control.BackColor); });
 }
 
 void Bind(Joint& joint, PlayerControl& control, QWidget& widget, const Surfaces& surfaces) {

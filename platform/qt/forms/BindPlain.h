@@ -3,7 +3,6 @@
 #include "platform/qt/forms/Joint.h"
 #include "platform/qt/forms/SeekSlider.h"
 #include "platform/toolkit/DatePicker.h"
-#include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
 #include "platform/toolkit/Widgets.h"
 
@@ -27,5 +26,4 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces& su
 void Bind(Joint& joint, Slider& control, SeekSlider& widget, const Surfaces& surfaces);
 void Bind(Joint& joint, DatePicker& control, QDateTimeEdit& widget, const Surfaces& surfaces);
 void Bind(Joint& joint, ColourPanel& control, QFrame& widget, const Surfaces& surfaces);
-void Bind(Joint& joint, PictureBox& control, QFrame& widget, const Surfaces& surfaces);
 void Bind(Joint& joint, PlayerControl& control, QWidget& widget, const Surfaces& surfaces);

@@ -25,17 +25,25 @@ Binder::Binder(Joint& joint, Form& form, const Surfaces& surfaces) : joint_(join
   BindAll(form.Controls());
   for (Component* component : form.Components()) {
     if (auto* entry = dynamic_cast<MenuItem*>(component)) BindEntry(*entry);
+    if (auto* separator = dynamic_cast<MenuSeparator*>(component)) BindSeparator(*separator);
   }
 }
 
-void Binder::BindEntry(MenuItem& entry) {
+QAction* Binder::ActionOf(const Component& entry) {
   auto* action = joint_.Window().findChild<QAction*>(Shown(entry.Name()));
   if (auto* menu = joint_.Window().findChild<QMenu*>(Shown(entry.Name()))) action = menu->menuAction();
-  if (action == nullptr) {
-    faults_.push_back(entry.Name() + ": missing in the layout");
-    return;
-  }
+  if (action == nullptr) faults_.push_back(entry.Name() + ": missing in the layout");
   actions_.insert(action);
+  return action;
+}
+
+void Binder::BindSeparator(const Component& separator) {
+  if (QAction* action = ActionOf(separator)) action->setSeparator(true);
+}
+
+void Binder::BindEntry(MenuItem& entry) {
+  QAction* action = ActionOf(entry);
+  if (action == nullptr) return;
   joint_.Follow(entry.Enabled.Changed, [&entry, action] { action->setEnabled(entry.Enabled); });
   joint_.Follow(entry.Checked.Changed, [&entry, action] {
     if (entry.Checked) action->setCheckable(true);

@@ -8,6 +8,7 @@
 #include "platform/qt/forms/Bindings.h"
 #include "platform/qt/forms/Joint.h"
 
+class Component;
 class Form;
 class MenuItem;
 class QAction;
@@ -31,6 +32,8 @@ class Binder {
   void BindOne(Control& control);
   void BindCommon(Control& control, QWidget& widget);
   void BindEntry(MenuItem& entry);
+  void BindSeparator(const Component& separator);
+  QAction* ActionOf(const Component& entry);
   void AddStrangers(std::vector<std::string>& faults) const;
   void AddStrangers(const QMenu& menu, std::vector<std::string>& faults) const;
 

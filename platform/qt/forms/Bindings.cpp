@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "platform/qt/forms/BindLists.h"
+#include "platform/qt/forms/BindPictures.h"
 #include "platform/qt/forms/BindPlain.h"
+#include "platform/qt/forms/BindStatusBar.h"
 
 namespace {
 
@@ -32,6 +35,8 @@ constexpr Binding kBindings[] = {
     Row<DatePicker, QDateTimeEdit>("DatePicker"),
     Row<ColourPanel, QFrame>("ColourPanel"),
     Row<PictureBox, QFrame>("PictureBox"),
+    Row<FlashBox, QFrame>("FlashBox"),
+    Row<StatusBar, QStatusBar>("StatusBar"),
     Row<PlayerControl, QWidget>("PlayerControl"),
     Row<FileListBox, NameView>("FileListBox"),
     Row<ListView, RowView>("ListView"),

@@ -9,10 +9,13 @@
 
 class Control;
 class MediaPlayer;
+class PictureLoader;
 
-// What operator forms need of others: the widget that shows a player's picture. Empty: such places stay black.
+// What operator forms need of others: the widget that shows a player's picture, and what decodes pictures. Empty: such
+// places stay black.
 struct Surfaces {
   std::function<QWidget*(MediaPlayer&, QWidget* parent)> preview;
+  PictureLoader* pictures = nullptr;
 };
 
 // How one kind of control is shown: the class of widget that its layout file must have for it, and what joins the two.

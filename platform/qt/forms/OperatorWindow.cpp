@@ -1,6 +1,7 @@
 #include "platform/qt/forms/OperatorWindow.h"
 
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
@@ -10,12 +11,13 @@
 #include "platform/qt/Pressed.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/forms/FormLoader.h"
+#include "platform/qt/forms/PointerDrag.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/qt/forms/TrayBinding.h"
-#include "platform/qt/forms/WindowDrag.h"
 #include "platform/qt/forms/WindowPlace.h"
 #include "platform/qt/forms/look/Look.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/MenuItem.h"
 
 namespace {
 
@@ -75,6 +77,7 @@ void OperatorWindow::FollowForm() {
     joint_.Follow(measure->Changed, [this] { Place(); });
   }
   joint_.Follow(form_.OnTop.Changed, [this] { ApplyOnTop(); });
+  joint_.Watch(form_.Pointer.Changed, [this] { Widget().setCursor(ShapeOf(form_.Pointer)); });
   joint_.Watch(form_.Maximised.Changed, [this] { ApplyState(); });
   joint_.Follow(form_.Visible.Changed, [this] { ShowSoon(); });
   joint_.Watch(form_.ShowAsked, [this] { ShowSoon(); });
@@ -149,8 +152,12 @@ bool OperatorWindow::Seen(QEvent& event) {
       if (Widget().windowHandle() != nullptr) SetWindowClass(*Widget().windowHandle(), form_.Name());
       return false;
     case QEvent::MouseButtonPress:
-      if (const auto button = Pressed(event)) form_.PressMouse(*button);
+    case QEvent::MouseMove: {
+      const auto& mouse = static_cast<QMouseEvent&>(event);
+      const MousePlace place = PlaceOn(mouse.position(), mouse.buttons());
+      event.type() == QEvent::MouseMove ? form_.MoveMouse(place) : form_.PressMouse(place);
       return false;
+    }
     default:
       return false;
   }
@@ -177,7 +184,19 @@ void OperatorWindow::Focus(const Control& control) {
 }
 
 void OperatorWindow::DragWindow(std::function<void()> done) {
-  new WindowDrag(Widget(), joint_.WhileHere(std::move(done)));
+  const QPoint from = Widget().pos();
+  new PointerDrag(
+      Widget(), [window = &Widget(), from](QPoint moved) { window->move(from + moved); },
+      joint_.WhileHere(std::move(done)));
+}
+
+void OperatorWindow::FollowPointer(std::function<void(Twips right, Twips down)> moved) {
+  new PointerDrag(
+      Widget(), [moved = std::move(moved)](QPoint by) { moved(ToTwips(by.x()), ToTwips(by.y())); }, [] {});
+}
+
+void OperatorWindow::PopUp(const MenuItem& menu) {
+  if (auto* shown = Widget().findChild<QMenu*>(Shown(menu.Name()))) shown->popup(QCursor::pos());
 }
 
 void OperatorWindow::DragPane(Control&, std::function<void()> done) { done(); }

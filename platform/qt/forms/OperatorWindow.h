@@ -23,6 +23,8 @@ class OperatorWindow : public FormWindow {
   void DragWindow(std::function<void()> done) override;
   // The layout places what is in an operator's window: nothing moves.
   void DragPane(Control& pane, std::function<void()> done) override;
+  void FollowPointer(std::function<void(Twips right, Twips down)> moved) override;
+  void PopUp(const MenuItem& menu) override;
 
   QWidget& Widget() const { return joint_.Window(); }
   const Binder& Joined() const { return binder_; }

@@ -13,7 +13,7 @@ QtWindows::QtWindows(OnAirMaker onAir, Surfaces surfaces) : onAir_(std::move(onA
 }
 
 std::unique_ptr<FormWindow> QtWindows::Create(Form& form) {
-  if (form.Type() == Form::Kind::kOnAir) return onAir_(form);
+  if (form.Type() != Form::Kind::kOperator) return onAir_(form);
   return std::make_unique<OperatorWindow>(form, surfaces_);
 }
 

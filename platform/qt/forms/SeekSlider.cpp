@@ -2,12 +2,24 @@
 
 #include <QMouseEvent>
 #include <QStyleOptionSlider>
+#include <utility>
 
-SeekSlider::SeekSlider(QWidget* parent) : QSlider(parent) {}
+SeekSlider::SeekSlider(QWidget* parent) : QSlider(parent) {
+  connect(this, &QSlider::valueChanged, this, [this](int value) {
+    if (largeChange_ > 0 && !following_) emit moved(value);
+  });
+}
 
 void SeekSlider::Show(int minimum, int maximum, int value) {
+  following_ = true;
   setRange(minimum, maximum);
   if (!held_) setValue(value);
+  following_ = false;
+}
+
+void SeekSlider::SetLargeChange(int change) {
+  largeChange_ = change;
+  if (change > 0) setPageStep(change);
 }
 
 int SeekSlider::ValueAt(const QMouseEvent& event) const {
@@ -26,6 +38,11 @@ int SeekSlider::ValueAt(const QMouseEvent& event) const {
 
 void SeekSlider::mousePressEvent(QMouseEvent* event) {
   event->accept();
+  if (largeChange_ > 0) {
+    held_ = held_ || event->button() == Qt::LeftButton;
+    if (event->button() == Qt::LeftButton) QSlider::mousePressEvent(event);
+    return;
+  }
   held_ = true;
   setSliderDown(true);
   setValue(ValueAt(*event));
@@ -34,6 +51,7 @@ void SeekSlider::mousePressEvent(QMouseEvent* event) {
 
 void SeekSlider::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
+  if (largeChange_ > 0) return QSlider::mouseMoveEvent(event);
   const int wanted = ValueAt(*event);
   if (!held_ || wanted == value()) return;
   setValue(wanted);
@@ -42,6 +60,13 @@ void SeekSlider::mouseMoveEvent(QMouseEvent* event) {
 
 void SeekSlider::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
+  if (largeChange_ > 0) {
+    if (!held_ || event->button() != Qt::LeftButton) return;
+    QSlider::mouseReleaseEvent(event);
+    held_ = false;
+    emit letGo(value());
+    return;
+  }
   if (!held_ || event->buttons()) return;
   held_ = false;
   setSliderDown(false);
@@ -52,7 +77,26 @@ void SeekSlider::mouseReleaseEvent(QMouseEvent* event) {
 void SeekSlider::keyPressEvent(QKeyEvent* event) {
   const int before = value();
   QSlider::keyPressEvent(event);
-  if (value() != before) emit worked(value());
+  if (value() == before) return;
+  if (largeChange_ > 0) {
+    movedByKey_ = true;
+  } else {
+    emit worked(value());
+  }
+}
+
+void SeekSlider::keyReleaseEvent(QKeyEvent* event) {
+  QSlider::keyReleaseEvent(event);
+  if (!event->isAutoRepeat()) EndKeys();
+}
+
+void SeekSlider::focusOutEvent(QFocusEvent* event) {
+  QSlider::focusOutEvent(event);
+  EndKeys();
+}
+
+void SeekSlider::EndKeys() {
+  if (std::exchange(movedByKey_, false)) emit letGo(value());
 }
 
 void SeekSlider::wheelEvent(QWheelEvent* event) { event->ignore(); }

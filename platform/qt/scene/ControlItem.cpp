@@ -16,7 +16,9 @@ ControlItem::ControlItem(Control& control, QQuickItem& parent) : QQuickItem(&par
     Follow(*measure, [this] { Place(); });
   }
   Follow(control.Visible, [this] { setVisible(control_->Visible); });
+  Follow(control.Enabled, [this] { setEnabled(control_->Enabled); });  // presses on it go to what is behind
   Place();
+  setEnabled(control.Enabled);
   setVisible(control.Visible);
 }
 

@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QRegion>
 #include <QScreen>
+#include <algorithm>
 #include <chrono>
 
 #include "platform/qt/OfKind.h"
@@ -24,25 +25,34 @@ constexpr std::chrono::milliseconds kToSettle{300};
 // What is behind all panes: the form itself.
 class FormItem : public QQuickItem {
  public:
-  FormItem(std::function<void(MouseButton)> pressed, QQuickItem& parent)
-      : QQuickItem(&parent), pressed_(std::move(pressed)) {
+  using Told = std::function<void(const MousePlace&)>;
+
+  FormItem(Told pressed, Told moved, QQuickItem& parent)
+      : QQuickItem(&parent), pressed_(std::move(pressed)), moved_(std::move(moved)) {
     setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptHoverEvents(true);
   }
   bool contains(const QPointF&) const override { return true; }
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override {
-    if (const auto button = Pressed(*event)) pressed_(*button);
+  void mousePressEvent(QMouseEvent* event) override { pressed_(PlaceOn(event->position(), event->buttons())); }
+  void mouseMoveEvent(QMouseEvent* event) override { moved_(PlaceOn(event->position(), event->buttons())); }
+  void hoverMoveEvent(QHoverEvent* event) override {
+    if (IsBare(event->position())) moved_(PlaceOn(event->position(), Qt::NoButton));
   }
 
  private:
-  std::function<void(MouseButton)> pressed_;
-};
+  // No pane that takes presses for itself stands there.
+  bool IsBare(QPointF place) const {
+    const QList<QQuickItem*> items = parentItem()->childItems();
+    return std::ranges::none_of(items, [&](const QQuickItem* item) {
+      return item != this && item->isVisible() && item->isEnabled() && item->contains(mapToItem(item, place));
+    });
+  }
 
-QRect PlaceOf(const Form& form) {
-  return {ToPixels(form.Left), ToPixels(form.Top), std::max(ToPixels(form.Width), 1),
-          std::max(ToPixels(form.Height), 1)};
-}
+  Told pressed_;
+  Told moved_;
+};
 
 }  // namespace
 
@@ -51,12 +61,15 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   format.setAlphaBufferSize(0);
   window_->setFormat(format);
   window_->setColor(Qt::black);
-  window_->setFlags(Qt::Window | Qt::FramelessWindowHint);
+  window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint);
   window_->setProperty("_q_showWithoutActivating", true);
   window_->installEventFilter(this);
   new FormItem(
-      [self = QPointer(this)](MouseButton button) {
-        if (self) self->form_.PressMouse(button);
+      [self = QPointer(this)](const MousePlace& place) {
+        if (self) self->form_.PressMouse(place);
+      },
+      [self = QPointer(this)](const MousePlace& place) {
+        if (self) self->form_.MoveMouse(place);
       },
       *window_->contentItem());
   Mirror(form.Controls(), *window_->contentItem());
@@ -86,6 +99,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
     SetWindowClass(*window_, form_.Name());
     window_->setVisible(form_.Visible);
   };
+  following_.push_back(form.Pointer.Changed.Subscribe([this] { window_->setCursor(ShapeOf(form_.Pointer)); }));
   following_.push_back(form.Caption.Changed.Subscribe(title));
   following_.push_back(form.OnTop.Changed.Subscribe(onTop));
   following_.push_back(form.Visible.Changed.Subscribe(visible));
@@ -134,23 +148,40 @@ void OnAirWindow::FollowScreen(QScreen* screen) {
   if (screen != nullptr) scene_.scheduler.SetFrameRate(screen->refreshRate());
 }
 
+bool OnAirWindow::HasFrame() const { return form_.Type() == Form::Kind::kPreview; }
+
+// Of what is inside the frame. A frame's lower edge stands where the form says, and its upper one where it comes to.
+QRect OnAirWindow::WantedPlace() {
+  const int width = std::max(ToPixels(form_.Width), 1);
+  if (!HasFrame()) return {ToPixels(form_.Left), ToPixels(form_.Top), width, std::max(ToPixels(form_.Height), 1)};
+  frame_ = window_->frameMargins();
+  const int height = std::max(ToPixels(form_.Height - kPreviewFrame), 1);
+  const int bottom = ToPixels(form_.Top + form_.Height) - frame_.bottom();
+  return {ToPixels(form_.Left) + frame_.left(), bottom - height, width, height};
+}
+
 void OnAirWindow::ApplyPlace() {
   placeIsDue_.stop();
-  const QRect place = PlaceOf(form_);
+  const QRect place = WantedPlace();
   if (window_->geometry() != place) window_->setGeometry(place);
 }
 
 void OnAirWindow::AdoptPlace() {
   if (!window_->isVisible() || placeIsDue_.isActive()) return;
-  const QRect wanted = PlaceOf(form_);
+  if (HasFrame() && window_->frameMargins() != frame_) {  // it has only just been given its frame
+    ApplyPlace();
+    return;
+  }
+  const QRect wanted = WantedPlace();
   const QRect actual = window_->geometry();
-  const auto adopt = [](Property<Twips>& measure, int wish, int is) {
-    if (wish != is) measure = is * kTwipsPerPixel;
+  const auto adopt = [](Property<Twips>& measure, int by) {
+    if (by != 0) measure = (ToPixels(measure) + by) * kTwipsPerPixel;
   };
-  adopt(form_.Left, wanted.x(), actual.x());
-  adopt(form_.Top, wanted.y(), actual.y());
-  adopt(form_.Width, wanted.width(), actual.width());
-  adopt(form_.Height, wanted.height(), actual.height());
+  const int taller = actual.height() - wanted.height();
+  adopt(form_.Left, actual.x() - wanted.x());
+  adopt(form_.Top, HasFrame() ? actual.bottom() - wanted.bottom() - taller : actual.y() - wanted.y());
+  adopt(form_.Width, actual.width() - wanted.width());
+  adopt(form_.Height, taller);
 }
 
 void OnAirWindow::DragWindow(std::function<void()> done) {
@@ -172,6 +203,11 @@ void OnAirWindow::DragPane(Control& pane, std::function<void()> done) {
            std::move(done)};
 }
 
+void OnAirWindow::FollowPointer(std::function<void(Twips right, Twips down)> moved) {
+  drag_ = {pressedAt_,
+           [moved = std::move(moved)](QPoint by) { moved(by.x() * kTwipsPerPixel, by.y() * kTwipsPerPixel); }, [] {}};
+}
+
 void OnAirWindow::EndDrag() {
   const Drag ended = std::exchange(drag_, {});
   if (ended.done) ended.done();
@@ -185,7 +221,8 @@ bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
       break;
     case QEvent::Close:
       event->ignore();  // a close key on the output display does not take the channel off the air
-      return true;
+      if (HasFrame()) form_.Close();
+      return true;  // the form, and with it this object, may be gone
     case QEvent::MouseButtonPress:
       pressedAt_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
       break;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QObject>
 #include <QPoint>
 #include <QTimer>
@@ -16,7 +17,8 @@ class QQuickWindow;
 class QScreen;
 
 // The real window behind an on-air form: borderless, one scene that mirrors the form's panes. It never takes the
-// keyboard by being shown.
+// keyboard by being shown. That of a preview has the desktop's own frame around it: what the form calls its place is
+// the place of the frame, of which kPreviewFrame of the height belong to the frame, however high that really is.
 class OnAirWindow : public QObject, public FormWindow {
  public:
   // `scene` must outlive it, and so must the form.
@@ -26,6 +28,8 @@ class OnAirWindow : public QObject, public FormWindow {
   void Focus(const Control&) override {}
   void DragWindow(std::function<void()> done) override;
   void DragPane(Control& pane, std::function<void()> done) override;
+  void FollowPointer(std::function<void(Twips right, Twips down)> moved) override;
+  void PopUp(const MenuItem&) override {}  // no menu stands on the air
 
   // For those that look at pixels.
   QQuickWindow* Window() const { return window_; }
@@ -44,6 +48,8 @@ class OnAirWindow : public QObject, public FormWindow {
   void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
   void FollowScreen(QScreen* screen);  // ticks come at the rate of the display that the window is on
   void FindCovered();
+  bool HasFrame() const;
+  QRect WantedPlace();
   void ApplyPlace();
   void AdoptPlace();
   void EndDrag();
@@ -56,6 +62,7 @@ class OnAirWindow : public QObject, public FormWindow {
   std::vector<Subscription> following_;
   QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
   QTimer coverIsDue_;  // finds out, likewise once, which panes are hidden by others
+  QMargins frame_;     // the desktop's, as it was taken into account last; none without HasFrame
   QTimer settled_;     // takes the window's place over into the form when it has come to rest
   QPoint pressedAt_;   // where on the screen a button went down last
   Drag drag_;

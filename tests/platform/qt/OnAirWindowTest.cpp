@@ -87,7 +87,8 @@ class OnAirWindowTest : public testing::Test, public Windows {
   QtFlash flash;
   QtPictures pictures;
   QPointer<QQuickWindow> window;
-  World world{clock, scheduler, files, media, flash, pictures, *this, sim.dialogs, sim.desktop, sim.monitors};
+  World world{clock, scheduler,   files,       media,        flash,      pictures,
+              *this, sim.dialogs, sim.desktop, sim.monitors, sim.network};
   Station station{world, test_media::PathOf("station")};
   frmProbe& form = station.forms.Get<frmProbe>();
 };
@@ -279,7 +280,7 @@ TEST_F(OnAirWindowTest, APressReachesThePaneUnderThePointer) {
   std::string pressed;
   form.Front.MouseDown.Connect([&](MouseButton) { pressed += "F"; });
   form.Back.MouseDown.Connect([&](MouseButton) { pressed += "B"; });
-  form.MouseDown.Connect([&](MouseButton button) { pressed += button == MouseButton::kRight ? "R" : "L"; });
+  form.MouseDown.Connect([&](const MousePlace& place) { pressed += place.Down(MouseButton::kRight) ? "R" : "L"; });
   QTest::mouseClick(window, Qt::LeftButton, {}, {15, 15});
   QTest::mouseClick(window, Qt::LeftButton, {}, {25, 25});
   QTest::mouseClick(window, Qt::RightButton, {}, {50, 5});
@@ -301,7 +302,7 @@ TEST_F(OnAirWindowTest, APaneFollowsThePointerUntilTheButtonIsLetGo) {
 }
 
 TEST_F(OnAirWindowTest, TheWindowFollowsThePointerUntilTheButtonIsLetGo) {
-  form.MouseDown.Connect([&](MouseButton) { form.Window()->DragWindow([] {}); });
+  form.MouseDown.Connect([&](const MousePlace&) { form.Window()->DragWindow([] {}); });
   QTest::mousePress(window, Qt::LeftButton, {}, {50, 5});
   QTest::mouseMove(window, {57, 8});
   EXPECT_TRUE(Until([&] { return form.Left == 150.0 + 105.0 && form.Top == 300.0 + 45.0; }));

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -101,6 +102,40 @@ TYPED_TEST(SchedulerContractTest, TimersThatAreDueTogetherTickInTheOrderStarted)
   for (const auto id : ids) this->scheduler.Cancel(id);
   // A frame may begin between the starts.
   EXPECT_EQ(order.substr(order.find('c') + 1, 6), "abcabc");
+}
+
+TYPED_TEST(SchedulerContractTest, AYieldRunsTheTicksThatAreDueAndNothingThatWasPosted) {
+  int ticks = 0;
+  bool posted = false;
+  int during = 0;
+  this->scheduler.Start(20ms, TickPhase::kFromStart, [&] { ++ticks; });
+  this->scheduler.Post([&] {
+    this->scheduler.Post([&] { posted = true; });
+    this->scheduler.Yield();
+    EXPECT_EQ(ticks, 0) << "nothing is due yet";
+    this->world.BeBusy(50ms);
+    EXPECT_EQ(ticks, 0) << "a handler that is at work is not interrupted";
+    this->scheduler.Yield();
+    during = ticks;
+    EXPECT_FALSE(posted);
+  });
+  EXPECT_TRUE(this->world.Until([&] { return posted; }));
+  EXPECT_EQ(during, 1) << "ticks that were missed are not made up";
+}
+
+TYPED_TEST(SchedulerContractTest, AYieldInsideATickRunsTheOthersAndMayRunTheSameTick) {
+  int depth = 0, deepest = 0, others = 0;
+  const auto id = this->scheduler.Start(20ms, TickPhase::kFromStart, [&] {
+    deepest = std::max(deepest, ++depth);
+    if (depth == 1) {
+      this->world.BeBusy(50ms);
+      this->scheduler.Yield();
+    }
+    --depth;
+  });
+  this->scheduler.Start(20ms, TickPhase::kFromStart, [&] { others += depth > 0; });
+  EXPECT_TRUE(this->world.Until([&] { return others > 0 && deepest > 1; }));
+  this->scheduler.Cancel(id);
 }
 
 TYPED_TEST(SchedulerContractTest, PostedWorkRunsAfterTheHandlerInTheOrderPosted) {

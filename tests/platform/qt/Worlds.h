@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <thread>
 
 #include "platform/posix/PosixFiles.h"
 #include "platform/qt/QtClock.h"
@@ -21,6 +22,8 @@
 class VirtualWorld {
  public:
   void Pass(std::chrono::milliseconds time) { sim.time.Advance(time); }
+  // A handler takes so long, and lets nothing happen meanwhile.
+  void BeBusy(std::chrono::milliseconds time) { sim.time.yieldTakes = time; }
   bool Until(const std::function<bool()>& condition) {
     for (int i = 0; i < 60'000 && !condition(); ++i) Pass(std::chrono::milliseconds(1));
     return condition();
@@ -52,6 +55,7 @@ class VirtualWorld {
 class RealWorld {
  public:
   static void Pass(std::chrono::milliseconds time) { ::Pass(time); }
+  static void BeBusy(std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }
   static bool Until(const std::function<bool()>& condition) { return ::Until(condition); }
   static std::string Clip(const std::string& name, double seconds) { return test_media::Clip(name, Qt::red, seconds); }
   static std::string Picture(const std::string& name, PixelSize size) {
@@ -77,8 +81,8 @@ class RealWorld {
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
   // Time, disk, media and pictures are real.
-  World world{clock_,    scheduler_,    files_,        media_,        flash_,
-              pictures_, rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors};
+  World world{clock_,        scheduler_,    files_,        media_,         flash_,       pictures_,
+              rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors, rest_.network};
 };
 
 using Worlds = testing::Types<VirtualWorld, RealWorld>;

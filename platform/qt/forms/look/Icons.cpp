@@ -39,6 +39,8 @@ constexpr IconRow kControls[] = {
     {"", "cmdMaximise", "view-fullscreen"},
     {"", "cmdMove", "transform-move"},
     {"", "cmdRemove", "edit-delete"},
+    {"", "imgPlay", "media-playback-start"},
+    {"", "imgStop", "media-playback-stop"},
     {"FrmPageSettings", "vkCommand3", "application-exit"},
     {"FrmPageSettings", "vkCommand4", "view-preview"},
     {"FrmPageSettings", "vkCommand5", "dialog-ok-apply"},
