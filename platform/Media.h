@@ -38,9 +38,12 @@ class MediaPlayer {
   // Opens a file, under its very name on the disk (Files::Resolve), or a stream, and starts it at once, in place of
   // what played before; that is no end of the former item. The empty text closes what is open.
   virtual void Open(const std::string& url) = 0;
+  // Goes on from a pause; behind an end or a stop the item starts again from its beginning.
   virtual void Play() = 0;
+  // While the item is still being opened the wish is kept: it opens paused.
   virtual void Pause() = 0;
-  // Black and silent; not an end.
+  // Black and silent; not an end. Behind an end too the state is kStopped then. Nothing happens where nothing has
+  // begun.
   virtual void Stop() = 0;
 
   // Seconds from the start; 0 when nothing is open.
@@ -52,7 +55,8 @@ class MediaPlayer {
   virtual PlayState State() const = 0;
   // The state in words, for the operator: "Playing", "Connecting...", "Buffering", "Stopped", "Paused", "Finished", "".
   std::string Status() const;
-  // The present item has been opened.
+  // The present item has been opened. It stays so behind its end and behind a stop, with its duration, until another
+  // is opened or it is closed.
   virtual bool IsOpen() const = 0;
 
   virtual void SetMute(bool mute) = 0;

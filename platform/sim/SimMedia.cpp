@@ -31,8 +31,7 @@ SimPlayer::~SimPlayer() {
   if (media_.Find(name_) == this) media_.players_.erase(name_);
 }
 
-bool SimPlayer::CanLoad() const {
-  if (media_.broken_.contains(url_)) return false;
+bool SimPlayer::MayBeOpened() const {
   return IsAddress(url_) || (media_.files_.Resolve(url_) == url_ && media_.files_.Kind(url_) == FileKind::kRegular);
 }
 
@@ -40,23 +39,29 @@ void SimPlayer::Open(const std::string& url) {
   StopWaiting();
   media_.trace_.Add(name_ + " open " + url);
   url_ = url;
-  open_ = false;
+  opened_ = false;
   position_ = 0;
-  since_ = media_.time_.Steady();
-  if (url.empty()) {
-    Enter(PlayState::kUndefined);
+  if (MayBeOpened()) {
+    Load();
   } else {
-    Enter(PlayState::kTransitioning);
-    if (CanLoad()) Wait(media_.openingTime, &SimPlayer::Opened);
+    Enter(url.empty() ? PlayState::kUndefined : PlayState::kReady);
   }
 }
 
-void SimPlayer::Opened() {
-  open_ = true;
+void SimPlayer::Load() {
+  paused_ = false;
+  Enter(PlayState::kTransitioning);
+  Wait(media_.openingTime, &SimPlayer::Loaded);
+}
+
+void SimPlayer::Loaded() {
+  if (media_.broken_.contains(url_)) return Enter(PlayState::kReady);
+  opened_ = true;
   since_ = media_.time_.Steady();
   listener_.MediaChanged();
   // The listener may have opened something else.
-  if (!open_ || state_ != PlayState::kTransitioning) return;
+  if (!opened_ || state_ != PlayState::kTransitioning) return;
+  if (paused_) return Enter(PlayState::kPaused);
   WaitForEnd();
   Enter(PlayState::kPlaying);
 }
@@ -72,13 +77,18 @@ void SimPlayer::Ended() {
 }
 
 void SimPlayer::Play() {
-  if (!open_ || state_ == PlayState::kPlaying) return;
-  since_ = media_.time_.Steady();
-  WaitForEnd();
-  Enter(PlayState::kPlaying);
+  paused_ = false;
+  if (state_ == PlayState::kPaused) {
+    since_ = media_.time_.Steady();
+    WaitForEnd();
+    Enter(PlayState::kPlaying);
+  } else if (state_ != PlayState::kPlaying && state_ != PlayState::kTransitioning && MayBeOpened()) {
+    Load();
+  }
 }
 
 void SimPlayer::Pause() {
+  if (state_ == PlayState::kTransitioning) paused_ = true;
   if (state_ != PlayState::kPlaying) return;
   position_ = Position();
   StopWaiting();
@@ -86,8 +96,11 @@ void SimPlayer::Pause() {
 }
 
 void SimPlayer::Stop() {
-  StopWaiting();
   media_.trace_.Add(name_ + " stop");
+  const bool nothingBegan =
+      state_ == PlayState::kUndefined || state_ == PlayState::kReady || state_ == PlayState::kStopped;
+  if (nothingBegan) return;
+  StopWaiting();
   position_ = 0;
   Enter(PlayState::kStopped);
 }
@@ -106,13 +119,14 @@ void SimPlayer::SetPosition(double seconds) {
 }
 
 double SimPlayer::Duration() const {
-  if (!open_) return 0;
+  if (!opened_) return 0;
   const auto known = media_.durations_.find(url_);
   return known == media_.durations_.end() ? 10 : known->second;
 }
 
 // Told as the real players tell it: from the message loop, never from inside the caller's own statement.
 void SimPlayer::Enter(PlayState state) {
+  if (state == state_) return;
   state_ = state;
   const std::string name = name_;
   media_.time_.Post([this, &media = media_, name, state] {

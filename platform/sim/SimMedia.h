@@ -55,7 +55,7 @@ class SimPlayer : public MediaPlayer {
   void SetPosition(double seconds) override;
   double Duration() const override;
   PlayState State() const override { return state_; }
-  bool IsOpen() const override { return open_; }
+  bool IsOpen() const override { return opened_; }
   void SetMute(bool mute) override { mute_ = mute; }
   void SetVolume(int percent) override { volume_ = percent; }
   void SetStretchToFit(bool stretch) override { stretch_ = stretch; }
@@ -66,8 +66,9 @@ class SimPlayer : public MediaPlayer {
   bool StretchToFit() const { return stretch_; }
 
  private:
-  bool CanLoad() const;
-  void Opened();
+  bool MayBeOpened() const;
+  void Load();
+  void Loaded();
   void Ended();
   void Enter(PlayState state);
   void Wait(std::chrono::nanoseconds duration, void (SimPlayer::*next)());
@@ -79,7 +80,8 @@ class SimPlayer : public MediaPlayer {
   MediaListener& listener_;
   std::string url_;
   PlayState state_ = PlayState::kUndefined;
-  bool open_ = false;
+  bool opened_ = false;
+  bool paused_ = false;
   bool mute_ = false;
   int volume_ = 50;
   bool stretch_ = false;

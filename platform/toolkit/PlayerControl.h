@@ -22,7 +22,7 @@ class PlayerControl : public Control, private MediaListener {
   int playState() const;
   // The state in words.
   std::string status() const;
-  // The present item has been opened.
+  // The present item has been opened; it stays so behind its end and behind a stop.
   bool isOnline() const;
 
   class Controls {

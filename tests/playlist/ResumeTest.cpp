@@ -236,6 +236,20 @@ TEST_F(ResumeTest, TheProbeNeverStopsAndASecondSelectionJustChangesWhatItReports
   EXPECT_EQ(Playlists().txtEndTime.Text.Get(), "07:02:00 AM");
 }
 
+TEST_F(ResumeTest, TheProbeGoesOnBehindTheEndOfThePreviewedClip) {
+  Clip("a.mp4", 60);
+  Set("Playlist", "FolderPath", "/clips");
+  Playlists().TP.Value = {.hour = 7};
+  Playlists().FileList.Pick(0);
+  Advance(70s);
+  ASSERT_EQ(sim.media.Find("frmPlaylist.Player")->State(), PlayState::kMediaEnded);
+  Playlists().txtDuration.Type("typed over");
+  Playlists().txtEndTime.Type("typed over");
+  Advance(100ms);
+  EXPECT_EQ(Playlists().txtDuration.Text.Get(), "0:1:0");
+  EXPECT_EQ(Playlists().txtEndTime.Text.Get(), "07:01:00 AM");
+}
+
 TEST_F(ResumeTest, AChangeOfTheStartTimeRunsTheProbeAnew) {
   Clip("a.mp4", 60);
   Set("Playlist", "FolderPath", "/clips");

@@ -71,6 +71,7 @@ void MpvPlayer::Open(const std::string& url) {
   Forget();
   url_ = url;
   wish_.reset();
+  opened_ = false;
   duration_ = 0;
   if (MayBeOpened(url)) {
     Load();
@@ -123,7 +124,7 @@ void MpvPlayer::Pause() {
 }
 
 void MpvPlayer::Stop() {
-  if (loadTicket_ == 0) return;
+  if (loadTicket_ == 0 && state_ != PlayState::kMediaEnded) return;
   Forget();
   wish_.reset();
   Close();
@@ -230,7 +231,7 @@ void MpvPlayer::Started(const mpv_event_start_file& start) { current_ = entries_
 
 void MpvPlayer::Loaded() {
   if (!current_) return;
-  open_ = true;
+  open_ = opened_ = true;
   frames_.SetLive(true);
   // MediaChanged promises the duration, so it waits for it.
   durationTicket_ = ++lastTicket_;

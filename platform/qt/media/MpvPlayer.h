@@ -26,7 +26,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void SetPosition(double seconds) override;
   double Duration() const override { return duration_; }
   PlayState State() const override { return state_; }
-  bool IsOpen() const override { return open_; }
+  bool IsOpen() const override { return opened_; }
   void SetMute(bool mute) override;
   void SetVolume(int percent) override;
   void SetStretchToFit(bool stretch) override;
@@ -76,7 +76,8 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   std::uint64_t seekTicket_ = 0;
   Entries entries_;
   bool current_ = false;  // the entry that mpv started last belongs to the present item
-  bool open_ = false;
+  bool opened_ = false;   // the present item has been open once
+  bool open_ = false;     // mpv has it open now
   bool running_ = false;  // its first picture or sound is out
   bool buffering_ = false;
   bool seekQueued_ = false;  // mpv has taken the seek; the next restart is its end

@@ -98,6 +98,79 @@ TYPED_TEST(MediaContractTest, PlayAfterAStopStartsTheItemAgain) {
   EXPECT_TRUE(this->Reaches(PlayState::kPlaying));
 }
 
+TYPED_TEST(MediaContractTest, AnItemStaysOpenBehindItsEndWithItsDuration) {
+  this->player->Open(this->world.Clip("ended.mp4", 0.6));
+  EXPECT_FALSE(this->player->IsOpen());
+  ASSERT_TRUE(this->Reaches(PlayState::kMediaEnded));
+  EXPECT_TRUE(this->player->IsOpen());
+  EXPECT_NEAR(this->player->Duration(), 0.6, 0.2);
+  EXPECT_EQ(this->player->Position(), 0);
+  this->player->Open(this->world.Clip("other.mp4", 5));
+  EXPECT_FALSE(this->player->IsOpen());
+  EXPECT_EQ(this->player->Duration(), 0);
+}
+
+TYPED_TEST(MediaContractTest, AnItemStaysOpenBehindAStopUntilItIsClosed) {
+  this->player->Open(this->world.Clip("kept.mp4", 5));
+  ASSERT_TRUE(this->Reaches(PlayState::kPlaying));
+  this->player->Stop();
+  EXPECT_TRUE(this->player->IsOpen());
+  EXPECT_NEAR(this->player->Duration(), 5, 0.2);
+  this->player->Open("");
+  EXPECT_FALSE(this->player->IsOpen());
+  EXPECT_EQ(this->player->Duration(), 0);
+}
+
+TYPED_TEST(MediaContractTest, AStopBehindTheEndIsAStop) {
+  this->player->Open(this->world.Clip("over.mp4", 0.4));
+  ASSERT_TRUE(this->Reaches(PlayState::kMediaEnded));
+  this->player->Stop();
+  EXPECT_EQ(this->player->State(), PlayState::kStopped);
+  ASSERT_TRUE(this->Reaches(PlayState::kStopped));
+  this->player->Stop();
+  this->world.Pass(100ms);
+  EXPECT_EQ(this->Times(PlayState::kStopped), 1);
+  EXPECT_EQ(this->Times(PlayState::kMediaEnded), 1);
+}
+
+TYPED_TEST(MediaContractTest, AStopWhereNothingHasBegunDoesNothing) {
+  this->player->Stop();
+  EXPECT_EQ(this->player->State(), PlayState::kUndefined);
+  this->player->Open(this->world.Absent());
+  EXPECT_EQ(this->player->State(), PlayState::kReady);
+  this->player->Stop();
+  EXPECT_EQ(this->player->State(), PlayState::kReady);
+}
+
+TYPED_TEST(MediaContractTest, AStopWhileTheItemIsBeingOpenedKeepsItShut) {
+  this->player->Open(this->world.Clip("early.mp4", 5));
+  this->player->Stop();
+  this->world.Pass(400ms);
+  EXPECT_EQ(this->player->State(), PlayState::kStopped);
+  EXPECT_EQ(this->Times(PlayState::kPlaying), 0);
+  EXPECT_FALSE(this->player->IsOpen());
+}
+
+TYPED_TEST(MediaContractTest, PlayBehindTheEndStartsTheItemAgain) {
+  this->player->Open(this->world.Clip("twice.mp4", 0.5));
+  ASSERT_TRUE(this->Reaches(PlayState::kMediaEnded));
+  this->player->Play();
+  EXPECT_EQ(this->player->State(), PlayState::kTransitioning);
+  ASSERT_TRUE(this->Reaches(PlayState::kMediaEnded));
+  EXPECT_TRUE(this->world.Until([&] { return this->Times(PlayState::kMediaEnded) == 2; }));
+  EXPECT_EQ(this->Times(PlayState::kPlaying), 2);
+}
+
+TYPED_TEST(MediaContractTest, APauseBeforeTheFileIsOpenOpensItPaused) {
+  this->player->Open(this->world.Clip("held.mp4", 10));
+  this->player->Pause();
+  ASSERT_TRUE(this->Reaches(PlayState::kPaused));
+  EXPECT_TRUE(this->player->IsOpen());
+  EXPECT_EQ(this->Times(PlayState::kPlaying), 0);
+  this->player->Play();
+  EXPECT_TRUE(this->Reaches(PlayState::kPlaying));
+}
+
 TYPED_TEST(MediaContractTest, TheEmptyTextClosesWhatIsOpen) {
   this->player->Open(this->world.Clip("closed.mp4", 0.5));
   ASSERT_TRUE(this->Reaches(PlayState::kPlaying));
