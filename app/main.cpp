@@ -3,8 +3,8 @@
 #include "settings/Station.h"
 #include "shell/frmLoad.h"
 
-int main(int argc, char** argv) {
-  QtWorld outside(argc, argv);
+int main() {
+  QtWorld outside;
   // What the operator makes there must find its folder on a first run.
   for (const char* folder : {"/Playlist"}) outside.world.files.CreateFolder(outside.ProgramFolder() + folder);
   Station station(outside.world, outside.ProgramFolder());

@@ -8,6 +8,8 @@ class Desktop {
  public:
   virtual ~Desktop() = default;
 
+  // The name of the file that this program runs from, without its folder.
+  virtual std::string ProgramName() const = 0;
   // Has `command` started at each log-on of this user, under `name`.
   virtual void RunAtLogOn(const std::string& name, const std::string& command) = 0;
   // Calls `pressed` whenever Ctrl and `letter` (A to Z) are pressed, whatever has the keyboard. Does nothing where

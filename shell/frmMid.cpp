@@ -59,7 +59,10 @@ void frmMid::mnuMasking_Click() {
   mnuMasking.Checked = MaskingOn;
 }
 
-void frmMid::RegisterRunAtStart() { Outside().desktop.RunAtLogOn("My App", station_.dataFolder.Path("\\corvanta")); }
+void frmMid::RegisterRunAtStart() {
+  Desktop& desktop = Outside().desktop;
+  desktop.RunAtLogOn("My App", station_.dataFolder.Folder() + "/" + desktop.ProgramName());
+}
 
 // Ctrl+T and Ctrl+O only bring back; what they write keeps it so at the next start.
 void frmMid::OnHotKey(int id) {

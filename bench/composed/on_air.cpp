@@ -8,8 +8,8 @@
 #include "settings/Station.h"
 
 int main(int argc, char** argv) {
-  QtWorld outside(argc, argv);
   if (argc != 4) return 2;
+  QtWorld outside;
   const std::string clip = argv[1];
   const std::string header = argv[2];
   const std::string scroll = argv[3];

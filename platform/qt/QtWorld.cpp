@@ -6,6 +6,7 @@
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixNetwork.h"
 #include "platform/qt/GraphicsChoice.h"
+#include "platform/qt/Locale.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/StationApplication.h"
@@ -23,8 +24,8 @@
 #include "platform/qt/scene/Scene.h"
 
 struct QtWorld::Parts {
-  Parts(int& argc, char** argv)
-      : application((ChooseGraphics(), argc), argv),
+  Parts()
+      : application(wordCount, words),
         windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); },
                 {NewPreviewWidget, &loader}) {
     application.setApplicationName("corvanta");
@@ -32,6 +33,10 @@ struct QtWorld::Parts {
     WearLook(application);
   }
 
+  // The program takes no options, so the application is given its name alone.
+  int wordCount = 1;
+  char name[9] = "corvanta";
+  char* words[2] = {name, nullptr};
   StationApplication application;
   std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
   QtClock clock;
@@ -49,11 +54,16 @@ struct QtWorld::Parts {
   PosixNetwork network;
 };
 
-QtWorld::QtWorld(int& argc, char** argv)
-    : parts_(std::make_unique<Parts>(argc, argv)), world{parts_->clock,    parts_->scheduler, parts_->files,
-                                                         parts_->media,    parts_->flash,     parts_->pictures,
-                                                         parts_->windows,  parts_->dialogs,   parts_->desktop,
-                                                         parts_->monitors, parts_->network} {}
+std::unique_ptr<QtWorld::Parts> QtWorld::MakeParts() {
+  SettleLocale();
+  ChooseGraphics();
+  return std::make_unique<Parts>();
+}
+
+QtWorld::QtWorld()
+    : parts_(MakeParts()), world{parts_->clock,   parts_->scheduler, parts_->files,   parts_->media,
+                                 parts_->flash,   parts_->pictures,  parts_->windows, parts_->dialogs,
+                                 parts_->desktop, parts_->monitors,  parts_->network} {}
 
 QtWorld::~QtWorld() = default;
 

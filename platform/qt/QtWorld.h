@@ -8,10 +8,11 @@
 // The real world: this desktop, its disk and its players. Makes the application; there is one in a process.
 class QtWorld {
   struct Parts;
+  static std::unique_ptr<Parts> MakeParts();
   std::unique_ptr<Parts> parts_;
 
  public:
-  QtWorld(int& argc, char** argv);
+  QtWorld();
   ~QtWorld();
 
   // The folder of the executable, wherever it was started from.

@@ -50,6 +50,7 @@ class SimDesktop : public Desktop {
  public:
   explicit SimDesktop(SimTrace& trace) : trace_(trace) {}
 
+  std::string ProgramName() const override { return programName; }
   void RunAtLogOn(const std::string& name, const std::string& command) override;
   void RegisterHotKey(int id, char letter, std::function<void()> pressed) override;
   void SetScreenSaverActive(int value) override;
@@ -62,6 +63,7 @@ class SimDesktop : public Desktop {
 
   void PressCtrl(char letter);
 
+  std::string programName = "corvanta";
   bool taskbarVisible = true;
   int cursorCount = 0;
   bool ended = false;

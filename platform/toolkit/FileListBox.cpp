@@ -35,8 +35,9 @@ void FileListBox::Refresh() {
 void FileListBox::Fill() {
   files_.clear();
   if (Path.Get().empty()) return;
+  // A name with a dot before it is hidden from whoever looks at the folder.
   for (std::string& name : Owner().Outside().files.List(Path, FileKind::kRegular)) {
-    if (FitsPattern(name, Pattern.Get())) files_.push_back(std::move(name));
+    if (!name.starts_with('.') && FitsPattern(name, Pattern.Get())) files_.push_back(std::move(name));
   }
 }
 

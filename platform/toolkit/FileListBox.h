@@ -6,7 +6,7 @@
 #include "platform/toolkit/Control.h"
 #include "platform/toolkit/Settable.h"
 
-// The files of one folder that fit a pattern, by name.
+// The files of one folder that fit a pattern, by name, but for hidden ones (a leading dot).
 class FileListBox : public Control {
  public:
   FileListBox(Form& form, std::string name);

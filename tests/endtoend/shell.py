@@ -2,6 +2,7 @@
 """Start, control window, hot keys and exit."""
 
 import shutil
+import subprocess
 import time
 
 from harness import ini, media
@@ -126,7 +127,36 @@ def the_station_starts_again_at_the_next_log_on(desk):
     entry = desk.folder / "home" / ".config" / "autostart" / "My App.desktop"
     until("the entry for the log-on", entry.exists)
     command = ini.value(entry, "Desktop Entry", "Exec")
-    assert str(station.folder / "corvanta") in command, command
+    assert str(station.program) in command, command
+
+
+@scenario
+def a_program_that_was_given_another_name_starts_under_it_at_the_next_log_on(desk):
+    station = Station(desk, program="channel five")
+    station.start_on_air()
+    entry = desk.folder / "home" / ".config" / "autostart" / "My App.desktop"
+    until("the entry for the log-on", entry.exists)
+    assert ini.value(entry, "Desktop Entry", "Exec") == f'"{station.program}"'
+
+
+@scenario
+def words_behind_the_programs_name_change_nothing(desk):
+    station = Station(desk)
+    station.playlist(media.clip("red", 60))
+    station.start("-platform", "offscreen", "-qwindowgeometry", "200x100+900+700", "-reverse")
+    station.await_colour("red")
+
+
+@scenario
+def where_the_desktop_writes_decimals_with_a_comma_an_item_resumes_at_its_second(desk):
+    locales = desk.folder / "locales"
+    locales.mkdir()
+    subprocess.run(["localedef", "-i", "de_DE", "-f", "UTF-8", locales / "de_DE.UTF-8"], check=True, timeout=60)
+    desk.environment.update(LOCPATH=str(locales), LC_ALL="de_DE.UTF-8")
+    station = Station(desk, settings={"Playlist": {"LastPositionSchdule": "20.5"}})
+    station.playlist(media.clock(60))
+    station.start_on_air()
+    until("the clock behind 20 seconds", lambda: 20 <= (station.clock() or 0) < 40)
 
 
 if __name__ == "__main__":

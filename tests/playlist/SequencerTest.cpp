@@ -75,6 +75,16 @@ TEST_F(SequencerTest, ARowInAnotherSpellingThanItsFileGoesOnTheAirAndTheNextFoll
   EXPECT_EQ(Aired(), (Names{"red.mp4", "blue.mp4"}));
 }
 
+TEST_F(SequencerTest, AHiddenFileIsInNoListAndIsNeverPlayedFromTheFolder) {
+  Folder(2);
+  Clip(".a.mp4");
+  Clip(".trashed.mp4");
+  EXPECT_EQ(sim.files.List("/clips", FileKind::kRegular).size(), 4u);
+  Call(3);
+  EXPECT_EQ(Playlists().FileList.ListCount(), 2);
+  EXPECT_EQ(Aired(), (Names{"b.mp4", "a.mp4", "b.mp4"}));
+}
+
 TEST_F(SequencerTest, AMissingRowIsSkippedAndTheCursorStandsAtTheOneThatPlays) {
   Playlist("Day.plt", {Clip("a.mp4"), "/clips/gone.mp4", Clip("c.mp4")});
   Call(2);

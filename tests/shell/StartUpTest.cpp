@@ -210,6 +210,13 @@ TEST_F(StartUpTest, ASettingsFileThatCannotBeReadIsAFirstRun) {
   EXPECT_FALSE(Output().Visible || Output().PicAd.Visible || Output().PicSide.Visible || Output().Timer1.Enabled);
 }
 
+TEST_F(StartUpTest, AProgramOfAnotherNameIsRegisteredUnderThatName) {
+  sim.desktop.programName = "channel \\ five";
+  Start();
+  const auto lines = sim.trace.Take();
+  EXPECT_NE(std::ranges::find(lines, "run at log-on \"My App\" /station/channel \\ five"), lines.end());
+}
+
 class MaskingTest : public StationTest {
  protected:
   // The output window with a strip of 1950 twips, at a place of its own.

@@ -4,10 +4,15 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <filesystem>
 
 #include "platform/qt/desktop/AutoStart.h"
 #include "platform/qt/desktop/Tools.h"
 #include "platform/qt/desktop/Xlib.h"
+
+std::string QtDesktop::ProgramName() const {
+  return std::filesystem::read_symlink("/proc/self/exe").filename().string();
+}
 
 void QtDesktop::RunAtLogOn(const std::string& name, const std::string& command) { WriteAutoStart(name, command); }
 

@@ -12,6 +12,7 @@
 // here waits for it.
 class QtDesktop : public Desktop {
  public:
+  std::string ProgramName() const override;
   void RunAtLogOn(const std::string& name, const std::string& command) override;
   void RegisterHotKey(int id, char letter, std::function<void()> pressed) override;
   void SetScreenSaverActive(int value) override;

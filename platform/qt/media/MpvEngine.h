@@ -2,7 +2,8 @@
 
 #include "platform/Media.h"
 
-// Makes players on libmpv. Its destructor gives players that are gone a moment to come to rest.
+// Makes players on libmpv, which starts only where numbers are plain (SettleLocale). Its destructor gives players that
+// are gone a moment to come to rest.
 class MpvEngine : public MediaEngine {
  public:
   ~MpvEngine() override;

@@ -1,6 +1,5 @@
 #include "platform/qt/media/MpvInstance.h"
 
-#include <clocale>
 #include <condition_variable>
 #include <mutex>
 #include <stdexcept>
@@ -28,7 +27,6 @@ Resting& TheResting() {
 
 MpvInstance::MpvInstance(const std::string& name, std::shared_ptr<FrameExchange> exchange, std::function<void()> wakeUp)
     : wakeUp_(std::move(wakeUp)) {
-  std::setlocale(LC_NUMERIC, "C");  // mpv reads its numbers by it and refuses to start otherwise
   mpv_ = mpv_create();
   if (mpv_ == nullptr) throw std::runtime_error("No media player can be made.");
   for (const auto& [name, value] : mpv_names::kOptions) mpv_set_option_string(mpv_, name, value);

@@ -1,6 +1,8 @@
 #include "platform/qt/media/MpvPlayer.h"
 
 #include <QUrl>
+#include <array>
+#include <charconv>
 #include <exception>
 #include <filesystem>
 #include <string_view>
@@ -26,6 +28,14 @@ bool MayBeOpened(const std::string& url) {
 std::string ForMpv(const std::string& url) {
   std::error_code failed;
   return IsAddress(url) ? url : std::filesystem::absolute(url, failed).string();
+}
+
+// With a decimal point, whatever the language of the desktop. Further than any item is long is far enough.
+std::string Decimal(double seconds) {
+  std::array<char, 32> text;
+  const double within = std::min(seconds, 1e9);
+  const auto end = std::to_chars(text.begin(), text.end(), within, std::chars_format::fixed, 6).ptr;
+  return {text.begin(), end};
 }
 
 std::optional<std::int64_t> EntryOf(const mpv_node& result) {
@@ -142,7 +152,7 @@ void MpvPlayer::SetPosition(double seconds) {
 void MpvPlayer::Seek() {
   seekQueued_ = false;
   seekTicket_ = ++lastTicket_;
-  mpv_->Command({"seek", std::to_string(*wish_), "absolute+exact"}, seekTicket_);
+  mpv_->Command({"seek", Decimal(*wish_), "absolute+exact"}, seekTicket_);
 }
 
 void MpvPlayer::SetMute(bool mute) {

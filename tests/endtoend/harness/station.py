@@ -13,19 +13,20 @@ TWIPS = 15
 
 
 class Station:
-    """Stages `folder`. The output window stands at `place` (left, top, width, height in pixels), where forms and
+    """Stages `folder`, with the program under the name `program`. The output window stands at `place` (left, top, width, height in pixels), where forms and
     questions, which come up in the middle, leave it free."""
 
-    def __init__(self, desk, name="station", place=(20, 20, 480, 270), settings=None):
+    def __init__(self, desk, name="station", place=(20, 20, 480, 270), settings=None, program="corvanta"):
         self.desk = desk
         self.screen = desk.screen
         self.folder = desk.folder / name
         self.place = place
+        self.program = self.folder / program
         self.settings = self.folder / "Settings.ini"
         self._process = None
         self.folder.mkdir(parents=True)
         # The program finds its folder by its own file, so a link would lead it astray.
-        shutil.copy2(PROGRAM, self.folder / "corvanta")
+        shutil.copy2(PROGRAM, self.program)
         self._sections = {
             "Settings": {"ShowMouse": "1", "ShowTaskbar": "1", "StartUp": "0", "Ext": "*.mp4;*.png;*.wav"},
             "Output": {"Show": "True"},
@@ -60,8 +61,8 @@ class Station:
             shutil.copy2(file, folder / f"{letter}.mp4")
         return folder
 
-    def start(self):
-        self._process = self.desk.start(self.folder / "corvanta", cwd="/")
+    def start(self, *arguments):
+        self._process = self.desk.start(self.program, *arguments, cwd="/")
         return self
 
     def start_on_air(self):
