@@ -5,6 +5,7 @@
 
 int main() {
   QtWorld outside;
+  if (!outside.IsOnlyRun()) return 0;
   // What the operator makes there must find its folder on a first run.
   for (const char* folder : {"/Playlist"}) outside.world.files.CreateFolder(outside.ProgramFolder() + folder);
   Station station(outside.world, outside.ProgramFolder());

@@ -12,6 +12,8 @@ class Desktop {
   virtual std::string ProgramName() const = 0;
   // Has `command` started at each log-on of this user, under `name`.
   virtual void RunAtLogOn(const std::string& name, const std::string& command) = 0;
+  // Calls `again` whenever the program of this station is started once more while it runs; that start ends by itself.
+  virtual void WhenStartedAgain(std::function<void()> again) = 0;
   // Calls `pressed` whenever Ctrl and `letter` (A to Z) are pressed, whatever has the keyboard. Does nothing where
   // another program holds the key.
   virtual void RegisterHotKey(int id, char letter, std::function<void()> pressed) = 0;

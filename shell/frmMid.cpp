@@ -37,6 +37,7 @@ void frmMid::Load() {
     Outside().desktop.RegisterHotKey(
         key.id, key.letter, [this, id = key.id] { Handle({.event = "HotKey"}, [this, id] { OnHotKey(id); }); });
   }
+  Outside().desktop.WhenStartedAgain([this] { Handle({.event = "StartedAgain"}, [this] { Show(); }); });
   Outside().desktop.SetScreenSaverActive(0);
   Caption = kStandardTitle;
 }

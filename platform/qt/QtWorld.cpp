@@ -1,8 +1,12 @@
 #include "platform/qt/QtWorld.h"
 
 #include <QQuickWindow>
+#include <chrono>
+#include <cstdio>
 #include <filesystem>
+#include <thread>
 
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixNetwork.h"
 #include "platform/qt/GraphicsChoice.h"
@@ -22,6 +26,13 @@
 #include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/scene/Scene.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds kPause(50);
+constexpr std::chrono::milliseconds kPatience(10'000);
+
+}  // namespace
 
 struct QtWorld::Parts {
   Parts()
@@ -49,7 +60,8 @@ struct QtWorld::Parts {
   Scene scene{scheduler, loader};
   QtWindows windows;
   QtDialogs dialogs;
-  QtDesktop desktop;
+  QtDesktop desktop{folder};
+  FolderLock lock{folder};
   QtMonitors monitors;
   PosixNetwork network;
 };
@@ -66,6 +78,17 @@ QtWorld::QtWorld()
                                  parts_->desktop, parts_->monitors,  parts_->network} {}
 
 QtWorld::~QtWorld() = default;
+
+bool QtWorld::IsOnlyRun() {
+  // The other one may just be coming up, or going: the first to be right about it counts.
+  for (auto waited = kPause; waited < kPatience; waited += kPause) {
+    if (parts_->lock.Take()) return true;
+    if (parts_->desktop.TellOtherRun()) return false;
+    std::this_thread::sleep_for(kPause);
+  }
+  std::fputs("Another run of this station holds its folder and does not answer.\n", stderr);
+  return false;
+}
 
 const std::string& QtWorld::ProgramFolder() const { return parts_->folder; }
 

@@ -15,6 +15,9 @@ class QtWorld {
   QtWorld();
   ~QtWorld();
 
+  // Whether no other run of the program is in this folder. Where one is, it has been told that it was started again,
+  // and this one is to end with nothing touched.
+  bool IsOnlyRun();
   // The folder of the executable, wherever it was started from.
   const std::string& ProgramFolder() const;
   // Lets everything happen, until the process ends.

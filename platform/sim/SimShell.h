@@ -52,6 +52,7 @@ class SimDesktop : public Desktop {
 
   std::string ProgramName() const override { return programName; }
   void RunAtLogOn(const std::string& name, const std::string& command) override;
+  void WhenStartedAgain(std::function<void()> again) override { startedAgain_ = std::move(again); }
   void RegisterHotKey(int id, char letter, std::function<void()> pressed) override;
   void SetScreenSaverActive(int value) override;
   void SetTaskbarVisible(bool show) override;
@@ -62,6 +63,9 @@ class SimDesktop : public Desktop {
   void EndProcess() override;
 
   void PressCtrl(char letter);
+  void StartAgain() {
+    if (startedAgain_) startedAgain_();
+  }
 
   std::string programName = "corvanta";
   bool taskbarVisible = true;
@@ -71,6 +75,7 @@ class SimDesktop : public Desktop {
  private:
   SimTrace& trace_;
   std::map<char, std::function<void()>> hotKeys_;
+  std::function<void()> startedAgain_;
 };
 
 // A network cable that the test plugs in and out.

@@ -121,6 +121,52 @@ def a_copied_folder_is_another_station(desk):
 
 
 @scenario
+def a_second_start_brings_the_control_window_forward_and_ends(desk):
+    station = playing(desk)
+    throughout("no control window", lambda: station.control() is None, 1)
+    for covered in (False, True):
+        if covered:
+            desk.start("xmessage", "-geometry", "500x300+700+400", "Another program")
+            until("another program in front", lambda: desk.screen.front() == "xmessage")
+        second = desk.start(station.program, cwd="/")
+        until("the end of the second run", lambda: second.poll() is not None)
+        assert second.returncode == 0, second.returncode
+        until("the control window in front", lambda: desk.screen.front() == "frmMid")
+    assert station.alive
+    throughout("red on the air", lambda: station.colour() == "red", 1)
+
+
+@scenario
+def two_starts_at_once_are_one_station(desk):
+    station = Station(desk)
+    station.playlist(media.clip("red", 60))
+    both = [desk.start(station.program, cwd="/") for _ in range(2)]
+    until("the end of one of them", lambda: any(one.poll() is not None for one in both))
+    until("red on the air", lambda: station.colour() == "red")
+    assert sorted(one.poll() is None for one in both) == [False, True]
+
+
+@scenario
+def stations_in_two_folders_run_side_by_side(desk):
+    first = playing(desk)
+    second = Station(desk, name="second", place=(620, 430, 480, 270))
+    second.playlist(media.clip("blue", 60))
+    second.start()
+    second.await_colour("blue")
+    throughout("both on the air", lambda: (first.colour(), second.colour()) == ("red", "blue"), 2)
+    assert first.alive and second.alive
+
+
+@scenario
+def a_killed_station_starts_again_at_once(desk):
+    station = playing(desk)
+    for _ in range(2):
+        station.stop()
+        station.start()
+        station.await_colour("red")
+
+
+@scenario
 def the_station_starts_again_at_the_next_log_on(desk):
     station = Station(desk, name="my station")
     station.start_on_air()

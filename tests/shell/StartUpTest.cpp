@@ -217,6 +217,18 @@ TEST_F(StartUpTest, AProgramOfAnotherNameIsRegisteredUnderThatName) {
   EXPECT_NE(std::ranges::find(lines, "run at log-on \"My App\" /station/channel \\ five"), lines.end());
 }
 
+TEST_F(StartUpTest, AFurtherStartOfTheStationBringsTheControlWindowForward) {
+  Set("Settings", "StartUp", "0");
+  Start();
+  EXPECT_FALSE(ControlWindow().Visible);
+  sim.desktop.StartAgain();
+  EXPECT_TRUE(ControlWindow().Visible);
+  bool asked = false;
+  const auto watching = ControlWindow().ShowAsked.Subscribe([&] { asked = true; });
+  sim.desktop.StartAgain();
+  EXPECT_TRUE(asked) << "a window that is shown already comes to the front";
+}
+
 class MaskingTest : public StationTest {
  protected:
   // The output window with a strip of 1950 twips, at a place of its own.

@@ -52,7 +52,7 @@ class XDesktopTest : public ::testing::Test {
   Display* other;  // the connection of another program
   Window root;
   int pressed = 0;
-  QtDesktop desktop;
+  QtDesktop desktop{"/usr"};
 };
 
 TEST_F(XDesktopTest, AHotKeyIsHeardWhateverHasTheKeyboardWithCapsAndNumLockOnToo) {
@@ -117,12 +117,30 @@ TEST_F(XDesktopTest, ThePanelsGoAndComeBackAndWhatWasHiddenBeforeStaysHidden) {
 TEST_F(XDesktopTest, ThePanelsThatAKilledRunHasHiddenComeBackInTheNext) {
   const Window panel = Panel();
   {
-    QtDesktop killed;
+    QtDesktop killed("/usr");
     killed.SetTaskbarVisible(false);
   }
   EXPECT_FALSE(Mapped(panel));
   desktop.SetTaskbarVisible(true);
   EXPECT_TRUE(Mapped(panel));
+}
+
+TEST_F(XDesktopTest, AFurtherStartOfTheSameStationIsHeardAndOneOfAnotherIsNot) {
+  const QtDesktop again("/usr/share/.."), another("/usr/share");
+  EXPECT_FALSE(again.TellOtherRun()) << "nobody listens yet";
+  int told = 0;
+  desktop.WhenStartedAgain([&] { ++told; });
+  EXPECT_FALSE(another.TellOtherRun());
+  EXPECT_TRUE(again.TellOtherRun());
+  EXPECT_TRUE(again.TellOtherRun());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 2; }));
+}
+
+TEST_F(XDesktopTest, ARunThatIsGoneIsNotFound) {
+  {
+    QtDesktop("/usr/share").WhenStartedAgain([] {});
+  }
+  EXPECT_FALSE(QtDesktop("/usr/share").TellOtherRun());
 }
 
 TEST_F(XDesktopTest, TheScreenDoesNotBlank) {
