@@ -3,11 +3,12 @@
 #include <span>
 
 #include "platform/toolkit/Form.h"
+#include "settings/Station.h"
 
 // A form that has a layout file.
 struct FormRow {
   const char* name;
-  Form& (*get)(Forms& forms);
+  Form& (*get)(StationForms& forms);
 };
 
 // All of them, as the build found them.
