@@ -144,8 +144,9 @@ void OnAirWindow::FindCovered() {
   }
 }
 
+// The viewers' display gives the rate; a preview stands on the operator's.
 void OnAirWindow::FollowScreen(QScreen* screen) {
-  if (screen != nullptr) scene_.scheduler.SetFrameRate(screen->refreshRate());
+  if (!HasFrame() && screen != nullptr) scene_.scheduler.SetFrameRate(screen->refreshRate());
 }
 
 bool OnAirWindow::HasFrame() const { return form_.Type() == Form::Kind::kPreview; }
