@@ -163,10 +163,10 @@ TEST_F(ToolkitTest, AFaultOfEveryTickIsSaidOnceAMinute) {
 
 TEST_F(ToolkitTest, AFaultInAnOperatorsActIsSaidUnderItsName) {
   Probe().Button.Click.Connect([] { throw std::logic_error("No such road."); });
-  Probe().MouseDown.Connect([](MouseButton) { throw 1; });
+  Probe().MouseDown.Connect([](const MousePlace&) { throw 1; });
   testing::internal::CaptureStderr();
   Probe().Button.Press();
-  Probe().PressMouse(MouseButton::kLeft);
+  Probe().PressMouse({.buttons = static_cast<int>(MouseButton::kLeft)});
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "frmProbe.Button_Click: No such road.\nfrmProbe_MouseDown: something that is no exception was thrown\n");
 }
