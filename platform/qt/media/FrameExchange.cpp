@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -19,10 +20,10 @@ QImage NewFrame(QSize pixels) {
 
 void FrameExchange::SetTarget(QSize pixels) {
   {
-    const std::lock_guard lock(mutex_);
+    const std::lock_guard lock(places_->mutex);
     if (pixels == target_) return;
     target_ = pixels;
-    waiting_ = kNone;
+    waiting_ = nullptr;
   }
   const std::lock_guard lock(changedMutex_);
   if (changed_) changed_();
@@ -30,10 +31,10 @@ void FrameExchange::SetTarget(QSize pixels) {
 
 void FrameExchange::SetLive(bool live) {
   {
-    const std::lock_guard lock(mutex_);
+    const std::lock_guard lock(places_->mutex);
     if (live == live_) return;
     live_ = live;
-    waiting_ = kNone;
+    waiting_ = nullptr;
   }
   // A still picture may have been rendered, and dropped, before anyone knew that it belongs on the screen.
   const std::lock_guard lock(changedMutex_);
@@ -41,15 +42,23 @@ void FrameExchange::SetLive(bool live) {
 }
 
 std::optional<QImage> FrameExchange::Take() {
-  const std::lock_guard lock(mutex_);
-  if (waiting_ == kNone) return std::nullopt;
-  shown_ = std::exchange(waiting_, kNone);
-  return frames_[shown_];
+  const std::lock_guard lock(places_->mutex);
+  if (waiting_ == nullptr) return std::nullopt;
+  return Lend(places_, *std::exchange(waiting_, nullptr));
 }
 
-void FrameExchange::Release() {
-  const std::lock_guard lock(mutex_);
-  shown_ = kNone;
+// Whoever writes to the image gets a copy of his own.
+QImage FrameExchange::Lend(const std::shared_ptr<Places>& places, Place& place) {
+  place.lent = true;
+  const QImage& frame = place.frame;
+  return {frame.constBits(),        frame.width(),  frame.height(),
+          frame.bytesPerLine(),     frame.format(), [](void* lease) { delete static_cast<Lease*>(lease); },
+          new Lease{places, &place}};
+}
+
+FrameExchange::Lease::~Lease() {
+  const std::lock_guard lock(places->mutex);
+  place->lent = false;
 }
 
 void FrameExchange::NotifyReady(std::function<void()> ready) {
@@ -62,19 +71,26 @@ void FrameExchange::NotifyChanged(std::function<void()> changed) {
   changed_ = std::move(changed);
 }
 
+FrameExchange::Place& FrameExchange::FreePlace() {
+  for (Place& place : places_->all) {
+    if (!place.lent && &place != waiting_) return place;
+  }
+  return places_->all.emplace_back();
+}
+
 QImage* FrameExchange::Begin() {
-  const std::lock_guard lock(mutex_);
+  const std::lock_guard lock(places_->mutex);
   if (!live_ || target_.isEmpty()) return nullptr;
-  for (rendering_ = 0; rendering_ == shown_ || rendering_ == waiting_;) ++rendering_;
-  QImage& frame = frames_[rendering_];
+  rendering_ = &FreePlace();
+  QImage& frame = rendering_->frame;
   if (frame.size() != target_) frame = NewFrame(target_);
   return &frame;
 }
 
 void FrameExchange::Publish() {
   {
-    const std::lock_guard lock(mutex_);
-    if (!live_ || frames_[rendering_].size() != target_) return;
+    const std::lock_guard lock(places_->mutex);
+    if (!live_ || rendering_->frame.size() != target_) return;
     waiting_ = rendering_;
   }
   const std::lock_guard lock(readyMutex_);

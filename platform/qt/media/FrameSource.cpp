@@ -13,10 +13,7 @@ void FrameSource::SetTarget(QSize pixels) { exchange_->SetTarget(pixels); }
 
 std::optional<QImage> FrameSource::Take() {
   told_ = false;
-  if (std::exchange(blackIsDue_, false) && !live_) {
-    exchange_->Release();
-    return QImage();
-  }
+  if (std::exchange(blackIsDue_, false) && !live_) return QImage();
   return exchange_->Take();
 }
 

@@ -15,7 +15,7 @@ class FrameSource : public QObject {
 
   // The size in which frames are wanted, in pixels; an empty one while the surface is not seen, which spares the work.
   void SetTarget(QSize pixels);
-  // The newest frame, once; it stays valid until the next one is taken. A null image: show black.
+  // The newest frame, once, as a lease; see FrameExchange::Take. A null image: show black.
   std::optional<QImage> Take();
 
   // The player's side.

@@ -72,8 +72,7 @@ void MpvRenderer::Render() {
   if (frame != nullptr) {
     size = {frame->width(), frame->height()};
     stride = static_cast<std::size_t>(frame->bytesPerLine());
-    // Not bits(): that would make a copy while the showing side still refers to an older use of this frame.
-    bytes = const_cast<uchar*>(frame->constBits());
+    bytes = frame->bits();
   }
   std::array<mpv_render_param, 7> parameters{{
       {MPV_RENDER_PARAM_SW_SIZE, size.data()},
