@@ -56,16 +56,7 @@ QSGNode* PictureNode(QSGNode* old, const SharedPicture& picture, QQuickWindow* w
   return node;
 }
 
-PictureLoader::PictureLoader() {
-  QImageReader::setAllocationLimit(kDecodedMegabytes);
-  thread_.setMaxThreadCount(1);
-  thread_.setObjectName("pictures");
-}
-
-PictureLoader::~PictureLoader() {
-  thread_.clear();
-  thread_.waitForDone();
-}
+PictureLoader::PictureLoader() { QImageReader::setAllocationLimit(kDecodedMegabytes); }
 
 void PictureLoader::Load(const QString& path, QSize size, QObject* receiver, Done done) {
   const QFileInfo file(path);
@@ -77,15 +68,11 @@ void PictureLoader::Load(const QString& path, QSize size, QObject* receiver, Don
     done(picture);
     return;
   }
-  thread_.start([this, key, receiver = QPointer(receiver), done = std::move(done)] {
-    SharedPicture picture = Decode(key.path, key.scaledTo);
-    QMetaObject::invokeMethod(
-        this,
-        [this, key, receiver, done, picture] {
-          if (picture) Keep(key, picture);
-          if (receiver) done(picture);
-        },
-        Qt::QueuedConnection);
+  decoding_.Do([this, key, receiver = QPointer(receiver), done = std::move(done)]() -> Worker::HandOver {
+    return [this, key, receiver, done, picture = Decode(key.path, key.scaledTo)] {
+      if (picture) Keep(key, picture);
+      if (receiver) done(picture);
+    };
   });
 }
 

@@ -4,11 +4,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QThreadPool>
 #include <functional>
 #include <list>
 #include <memory>
 #include <vector>
+
+#include "platform/qt/Worker.h"
 
 class QSGNode;
 class QQuickWindow;
@@ -35,9 +36,8 @@ class PictureLoader : public QObject {
  public:
   using Done = std::function<void(SharedPicture)>;
 
+  // The end waits for the picture that is being decoded.
   PictureLoader();
-  // Waits for the picture that is being decoded.
-  ~PictureLoader() override;
 
   // Calls `done` with the picture of a file, scaled to `size` unless that is empty: at once when it is at hand, later
   // otherwise, and then only if `receiver` still lives. Null: the file is no picture.
@@ -59,5 +59,5 @@ class PictureLoader : public QObject {
   void Keep(const Key& key, const SharedPicture& picture);
 
   std::list<Kept> kept_;  // the latest used first
-  QThreadPool thread_;    // "pictures"; nobody waits for it but the destructor
+  Worker decoding_{"pictures"};
 };
