@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "platform/Desktop.h"
@@ -102,6 +103,8 @@ class SimPictures : public Pictures {
 
   // The pictures among the files of the virtual disk; every other file is none.
   std::map<std::string, PixelSize> sizes;
+  // Of these nothing but the header can be read.
+  std::set<std::string> undecodable;
 
  private:
   const Files& files_;

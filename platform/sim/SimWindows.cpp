@@ -1,14 +1,21 @@
 #include "platform/sim/SimWindows.h"
 
 #include <utility>
+#include <vector>
 
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/MenuItem.h"
+#include "platform/toolkit/Panes.h"
 
 class SimWindow : public FormWindow {
  public:
   SimWindow(SimWindows& windows, Form& form) : windows_(windows), form_(form) {
     visible_ = form.Visible.Changed.Subscribe([this] { Tell(form_.Visible ? "shown" : "hidden"); });
+    for (Component* component : form.Components()) {
+      if (auto* pane = dynamic_cast<PictureBox*>(component)) {
+        decoding_.push_back(pane->Picture.Changed.Subscribe([this, pane] { Decode(*pane); }));
+      }
+    }
     Tell("loaded");
   }
   ~SimWindow() override { Tell("unloaded"); }
@@ -29,11 +36,21 @@ class SimWindow : public FormWindow {
   }
 
  private:
+  // The pane may be gone by the time the picture is decoded.
+  void Decode(PictureBox& pane) {
+    const LoadedPicture picture = pane.Picture;
+    const bool shows = !windows_.pictures_.undecodable.contains(picture.path);
+    windows_.time_.Post([&pane, load = picture.load, shows, alive = std::weak_ptr(alive_)] {
+      if (!alive.expired()) pane.Decoded(load, shows);
+    });
+  }
   void Tell(const std::string& what) { windows_.trace_.Add(form_.Name() + " " + what); }
 
   SimWindows& windows_;
   Form& form_;
   Subscription visible_;
+  std::vector<Subscription> decoding_;
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>();
 };
 
 std::unique_ptr<FormWindow> SimWindows::Create(Form& form) { return std::make_unique<SimWindow>(*this, form); }

@@ -4,12 +4,16 @@
 #include <string>
 
 #include "platform/Windows.h"
+#include "platform/sim/SimShell.h"
+#include "platform/sim/SimTime.h"
 #include "platform/sim/SimTrace.h"
 
-// Windows that nobody sees: they tell when they are shown, hidden and gone.
+// Windows that nobody sees: they tell when they are shown, hidden and gone, and decode pictures as
+// soon as the handler that loads them has returned.
 class SimWindows : public Windows {
  public:
-  explicit SimWindows(SimTrace& trace) : trace_(trace) {}
+  SimWindows(SimTrace& trace, SimTime& time, const SimPictures& pictures)
+      : trace_(trace), time_(time), pictures_(pictures) {}
 
   std::unique_ptr<FormWindow> Create(Form& form) override;
   PixelSize ScreenSize() const override { return screenSize; }
@@ -29,6 +33,8 @@ class SimWindows : public Windows {
   friend class SimWindow;
 
   SimTrace& trace_;
+  SimTime& time_;
+  const SimPictures& pictures_;
   std::function<void(Twips, Twips)> dragMoved_;
   std::function<void()> dragDone_;
 };

@@ -18,7 +18,7 @@ struct SimWorld {
   SimMedia media{time, files, trace};
   SimFlash flash{time, files, trace};
   SimPictures pictures{files};
-  SimWindows windows{trace};
+  SimWindows windows{trace, time, pictures};
   SimDialogs dialogs{trace, time, files};
   SimDesktop desktop{trace};
   SimMonitors monitors;

@@ -22,5 +22,21 @@ void PictureBox::LoadPicture(const std::string& path) {
     Width = size.width * kTwipsPerPixel;
     Height = size.height * kTwipsPerPixel;
   }
-  Picture = LoadedPicture{file, Picture.Get().load + 1};
+  lastLoad_ += 1;
+  Picture = LoadedPicture{file, lastLoad_};
+  if (path.empty()) Decoded(lastLoad_, true);
+}
+
+void PictureBox::Decoded(int load, bool shows) {
+  if (load != Picture.Get().load || load == shown_.picture.load) return;
+  if (shows) {
+    shown_ = {Picture, Width, Height};
+    return;
+  }
+  if (sizing_ == Sizing::kByPicture) {
+    Width = shown_.width;
+    Height = shown_.height;
+  }
+  Picture = shown_.picture;
+  Handle("FellBack", [this] { FellBack.Raise(); });
 }

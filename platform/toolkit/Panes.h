@@ -24,12 +24,25 @@ class PictureBox : public Control {
   // Shows the picture at its own size, from the pane's left top corner; with kByPicture the pane takes its size at
   // once. Fails when the file is absent or no picture, and the pane stays as it was. The empty path clears the pane.
   void LoadPicture(const std::string& path);
+  // What the window tells when it has decoded the picture of a load. Where nothing of it could be, the pane has its
+  // former picture again, at its size, and says so.
+  void Decoded(int load, bool shows);
 
   Property<LoadedPicture> Picture;
   Property<Colour> BackColor{kBlack};
+  Event<> FellBack;
 
  private:
+  // A picture that is known to show, and the pane's size under it.
+  struct Shown {
+    LoadedPicture picture;
+    Twips width = 0;
+    Twips height = 0;
+  };
+
   Sizing sizing_;
+  Shown shown_;
+  int lastLoad_ = 0;  // also of those that fell back: no two loads have one number
 };
 
 // A text on a pane.

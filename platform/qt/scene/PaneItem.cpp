@@ -10,26 +10,37 @@ QColor ToColour(const Colour& colour) { return {colour.red, colour.green, colour
 }  // namespace
 
 PaneItem::PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene)
-    : ControlItem(pane, parent), pane_(pane), scene_(scene), colour_(ToColour(pane.BackColor)) {
+    : ControlItem(pane, parent), pane_(&pane), scene_(scene), colour_(ToColour(pane.BackColor)) {
   setClip(true);
   Follow(pane.BackColor, [this] {
-    colour_ = ToColour(pane_.BackColor);
+    colour_ = ToColour(pane_->BackColor);
     update();
   });
   Follow(pane.Picture, [this] { LoadPicture(); });
   if (!pane.Picture.Get().path.empty()) LoadPicture();
 }
 
-// The former picture stays until the new one is decoded. Of two loads in a row the later one counts, whichever is
-// ready first.
+void PaneItem::Detach() {
+  pane_ = nullptr;
+  ControlItem::Detach();
+}
+
+// The former picture stays until the new one is decoded, and for good where nothing of that can be. Of two loads in a
+// row the later one counts, whichever is ready first.
 void PaneItem::LoadPicture() {
-  const LoadedPicture& wanted = pane_.Picture;
+  const LoadedPicture wanted = pane_->Picture;
   load_ = wanted.load;
-  const auto show = [this, load = wanted.load](SharedPicture picture) {
-    if (load != load_ || picture == picture_) return;
-    picture_ = std::move(picture);
-    pictureIsNew_ = true;
-    update();
+  if (wanted.load == shown_) return;  // it has fallen back to what is shown
+  const auto show = [this, load = wanted.load, clears = wanted.path.empty()](SharedPicture picture) {
+    if (load != load_) return;
+    const bool shows = picture || clears;
+    if (shows) shown_ = load;
+    if (shows && picture != picture_) {
+      picture_ = std::move(picture);
+      pictureIsNew_ = true;
+      update();
+    }
+    if (pane_ != nullptr) pane_->Decoded(load, shows);
   };
   if (wanted.path.empty()) {
     show(nullptr);

@@ -9,16 +9,19 @@ class PaneItem : public ControlItem {
  public:
   PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene);
 
+  void Detach() override;
+
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;
 
  private:
   void LoadPicture();
 
-  PictureBox& pane_;
+  PictureBox* pane_;  // null when the control is gone
   Scene& scene_;
   QColor colour_;
   SharedPicture picture_;
   bool pictureIsNew_ = false;
-  int load_ = 0;
+  int load_ = 0;   // the load that is asked for
+  int shown_ = 0;  // the load of the picture that is shown
 };

@@ -15,10 +15,22 @@ constexpr int kDecodedMegabytes = 512;  // of one picture; a file that claims mo
 
 qint64 BytesOf(const Picture& picture) { return qint64{4} * picture.size.width() * picture.size.height(); }
 
+// As far as the file goes: what a picture that is cut off lacks stays black. Null where nothing can be decoded.
+QImage Read(QImageReader& reader) {
+  const QSize size = reader.size();
+  if (qint64{4} * size.width() * size.height() > qint64{kDecodedMegabytes} << 20) return {};
+  QImage image(size, reader.imageFormat());
+  image.fill(Qt::black);
+  if (reader.read(&image) || image.isNull()) return image;
+  QImage blank(image.size(), image.format());
+  blank.fill(Qt::black);
+  return image == blank ? QImage() : image;
+}
+
 SharedPicture Decode(const QString& path, QSize scaledTo) {
   QImageReader reader(path);
   reader.setDecideFormatFromContent(true);
-  QImage image = reader.read();
+  QImage image = Read(reader);
   if (image.isNull()) return nullptr;
   if (!scaledTo.isEmpty() && image.size() != scaledTo) {
     image = image.scaled(scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
