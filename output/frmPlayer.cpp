@@ -19,7 +19,17 @@ constexpr int kMediaEnded = static_cast<int>(PlayState::kMediaEnded);
 }  // namespace
 
 frmPlayer::frmPlayer(Station& station)
-    : Form(station.forms, "frmPlayer", Kind::kOnAir), station_(station), currentAd_(station.Shared<CurrentAd>()) {
+    : Form(station.forms, "frmPlayer", Kind::kOnAir),
+      station_(station),
+      currentAd_(station.Shared<CurrentAd>()),
+      band_({.header = Flash,
+             .picture = pic,
+             .left = FlashLeft,
+             .right = FlashRight,
+             .headerSize = picSize,
+             .leftSize = picSize,
+             .rightSize = picSize},
+            currentAd_) {
   Width = 15450;
   Height = kDesignHeight;
   PicVideoAd.Visible = false;
@@ -62,6 +72,7 @@ frmPlayer::frmPlayer(Station& station)
   AdPlayer.PlayStateChange.Connect([this] { AdPlayer_PlayStateChange(); });
 
   MouseDown.Connect([this](const MousePlace&) { Window()->DragWindow([] {}); });
+  pic.FellBack.Connect([this] { SetHeight(); });
   pic.MouseDown.Connect([this](MouseButton) { DragBand(); });
   PicAd.MouseDown.Connect([this](MouseButton) { DragBand(); });
   picNext.MouseDown.Connect([this](MouseButton) { Timer4.Enabled = true; });
@@ -150,47 +161,15 @@ void frmPlayer::SetDisplay(const cMonitor& monitor) {
 }
 
 void frmPlayer::SetHeight() {
-  Flash.Height = Val(currentAd_.CrawlerHeaderHeight);
-  FlashLeft.Width = Val(currentAd_.CrawlerSideWidth);
-  FlashRight.Width = Val(currentAd_.CrawlerSideWidth);
-  Flash.Left = 0;
-  Flash.Top = 0;
-  Flash.Width = Width;
-  pic.Top = Flash.Height.Get();
-  pic.Left = 0;
-  const Twips bandHeight = pic.Height + Flash.Height;
-  FlashLeft.Height = bandHeight;
-  FlashLeft.Left = 0;
-  FlashLeft.Top = 0;
-  FlashRight.Height = bandHeight;
-  FlashRight.Left = PicAd.Width - FlashRight.Width;
-  FlashRight.Top = 0;
-  PicAd.Height = bandHeight;
+  band_.Lay(Width, PicAd.Width);
+  PicAd.Height = band_.Height();
   PicAd.Top = Height - PicAd.Height - Val(currentAd_.CrawlerAdTop);
 }
 
 void frmPlayer::ViewAd(const std::string& header, const std::string& scroll, const std::string& left,
                        const std::string& right) {
-  // Only "jpg" in small letters is taken for a picture here; what any other header is, the band's control finds out.
-  const auto isJpg = [](const std::string& path) { return path.ends_with("jpg"); };
-  if (isJpg(header)) {
-    // The height of the scrolling picture, not of the header's own. Meant so: keep it; SetHeight sets it anew below.
-    SkippingFailures([&] { picSize.LoadPicture(header); }, [&] { Flash.Height = pic.Height.Get(); });
-  }
-  SkippingFailures([&] { Flash.Movie = header; }, [&] { pic.LoadPicture(scroll); });
-  for (const auto& [panel, path] : {std::pair(&FlashLeft, &left), std::pair(&FlashRight, &right)}) {
-    if (isJpg(*path)) {
-      SkippingFailures([&] { picSize.LoadPicture(*path); }, [&] { panel->Width = picSize.Width.Get(); });
-    }
-  }
-  LoadPanel(FlashLeft, left);
-  LoadPanel(FlashRight, right);
+  band_.View(header, scroll, left, right);
   SetHeight();
-}
-
-void frmPlayer::LoadPanel(FlashBox& panel, const std::string& path) {
-  if (!path.empty()) SkippingFailures([&] { panel.Movie = path; });
-  panel.Visible = !path.empty();
 }
 
 void frmPlayer::SideAd() {
@@ -206,11 +185,11 @@ void frmPlayer::SideAd() {
 }
 
 void frmPlayer::Timer1_Tick() {
-  if (-pic.Width > pic.Left) {
+  if (band_.HasLeft()) {
     CrawlerLeft.Raise();
-    return;
+  } else {
+    band_.Step();
   }
-  pic.Left = pic.Left - Val(currentAd_.CrawlerSpeed);
 }
 
 void frmPlayer::Timer2_Tick() {

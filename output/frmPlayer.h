@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "output/AdBand.h"
 #include "output/CurrentAd.h"
 #include "output/cMonitors.h"
 #include "platform/toolkit/FlashBox.h"
@@ -97,10 +98,10 @@ class frmPlayer : public Form {
   void CutToStrip();
   Twips WholeHeight() const { return heightBeforeMask_.value_or(Height); }
   void Fill(Control& control, Twips below = 0);
-  void LoadPanel(FlashBox& panel, const std::string& path);
 
   Station& station_;
   CurrentAd& currentAd_;
+  AdBand band_;
   std::optional<cMonitors> monitors_;
   std::optional<Twips> heightBeforeMask_;  // of a window that is masked now
   int slide_ = 0;                          // of the banner, twips
