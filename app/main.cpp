@@ -6,9 +6,8 @@
 int main() {
   QtWorld outside;
   if (!outside.IsOnlyRun()) return 0;
-  // What the operator makes there must find its folder on a first run.
-  for (const char* folder : {"/Playlist"}) outside.world.files.CreateFolder(outside.ProgramFolder() + folder);
   Station station(outside.world, outside.ProgramFolder());
+  MakeStationFolders(outside.world.files, station.dataFolder);
   ConnectRoads(station);
   station.forms.Get<frmLoad>().Show();
   return outside.Run();

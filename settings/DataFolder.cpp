@@ -13,3 +13,10 @@ std::string WithPlatformSeparators(std::string_view path) {
   std::replace(mapped.begin(), mapped.end(), '\\', '/');
   return mapped;
 }
+
+void MakeStationFolders(Files& files, const DataFolder& folder) {
+  for (const char* tail : {"\\Playlist", "\\Ads", "\\VideoAd", "\\OnlineChannel", "\\Media\\Logo", "\\Media\\Clock",
+                           "\\Media\\Stiker", "\\Media\\FlashAd", "\\Media\\LeftSideAd"}) {
+    files.CreateFolder(folder.Path(tail));
+  }
+}

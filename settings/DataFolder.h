@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Files.h"
+
 // The folder of the executable, under which everything lies that the station stores. Copy the folder anywhere and it is
 // another station. Paths are made at the moment of use; nothing but the folder is kept.
 class DataFolder {
@@ -20,3 +22,7 @@ class DataFolder {
 
 // The path with every backslash turned into the platform's separator.
 std::string WithPlatformSeparators(std::string_view path);
+
+// Makes, where they are missing, the folders that the operator's forms write into: what is made there on the first day
+// must find its place.
+void MakeStationFolders(Files& files, const DataFolder& folder);

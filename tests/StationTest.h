@@ -19,7 +19,7 @@
 class StationTest : public ::testing::Test {
  protected:
   StationTest() {
-    sim.files.CreateFolder("/station/Playlist");
+    MakeStationFolders(sim.files, station.dataFolder);
     sim.files.CreateFolder("/clips");
     station.stores.SettingsFile();
     ConnectRoads(station);

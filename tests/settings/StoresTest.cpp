@@ -60,4 +60,21 @@ TEST(DataFolderTest, ATailIsMappedToThePlatformsSeparator) {
   EXPECT_EQ(DataFolder("/opt/Station").Path(""), "/opt/Station");
 }
 
+TEST(StationFoldersTest, TheFirstStartMakesEveryFolderThatTheFormsWriteInto) {
+  SimFiles files;
+  MakeStationFolders(files, DataFolder("/station"));
+  for (const char* folder : {"Playlist", "Ads", "VideoAd", "OnlineChannel", "Media/Logo", "Media/Clock", "Media/Stiker",
+                             "Media/FlashAd", "Media/LeftSideAd"}) {
+    EXPECT_EQ(files.Kind(std::string("/station/") + folder), FileKind::kFolder) << folder;
+  }
+}
+
+TEST(StationFoldersTest, AFolderThatIsThereInAnotherSpellingIsLeftAlone) {
+  SimFiles files;
+  files.Put("/station/ads/shoes/adinfo.ini", "");
+  MakeStationFolders(files, DataFolder("/station"));
+  EXPECT_EQ(files.List("/station", FileKind::kFolder).front(), "ads");
+  EXPECT_EQ(files.Kind("/station/Ads/shoes"), FileKind::kFolder);
+}
+
 }  // namespace
