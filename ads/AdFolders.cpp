@@ -3,6 +3,7 @@
 #include <span>
 
 #include "platform/Files.h"
+#include "platform/Scheduler.h"
 #include "platform/toolkit/Failure.h"
 #include "platform/toolkit/ListView.h"
 #include "settings/Helpers.h"
@@ -68,6 +69,7 @@ void Load(Station& station, AdStore store, const std::string& folder, ListView& 
     if (!IsAdName(name)) continue;
     list.Add(RowOf(station, Of(store), name));
     if (name == selected && list.SelectedItem() == 0) list.Select(list.Count());
+    station.world.scheduler.Yield();
   }
 }
 

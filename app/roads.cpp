@@ -1,5 +1,6 @@
 #include "app/roads.h"
 
+#include "ads/frmAdSett.h"
 #include "output/frmPlayer.h"
 #include "playlist/frmPlaylist.h"
 #include "settings/Station.h"
@@ -19,5 +20,11 @@ void ConnectRoads(Station& station) {
     output.ItemNearlyOver.Connect([&forms] { forms.Get<frmPlaylist>().PlayNext(); });
     // The duration of the item is known: the slider takes its range.
     output.MediaOpened.Connect([&forms, &output] { forms.Get<frmPlaylist>().TakeDuration(output); });
+  });
+
+  // frmPlayer -> frmAdSett
+  forms.WhenCreated<frmPlayer>([&forms](frmPlayer& output) {
+    // The crawler's picture has left the band: the next ad.
+    output.CrawlerLeft.Connect([&forms] { forms.Get<frmAdSett>().NextAd(); });
   });
 }

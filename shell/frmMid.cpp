@@ -1,5 +1,6 @@
 #include "shell/frmMid.h"
 
+#include "ads/frmAdSett.h"
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
@@ -23,6 +24,8 @@ frmMid::frmMid(Station& station) : Form(station.forms, "frmMid", Kind::kOperator
   ThemedButton5.Click.Connect([this] { station_.forms.Get<frmPlaylist>().PlayNext(); });
   ThemedButton6.Click.Connect([this] { station_.forms.Get<frmPlayer>().Player.controls.stop(); });
   mnuPlayList.Click.Connect([this] { station_.forms.Get<frmPlaylist>().Show(); });
+  mnuShowCrawlersAd.Click.Connect([this] { mnuShowCrawlersAd_Click(); });
+  mnuScorlAsSettings.Click.Connect([this] { station_.forms.Get<frmAdSett>().Show(); });
   mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
   Picture1.MouseDown.Connect([this](MouseButton) { MoveTo(); });
   Tray.DblClick.Connect([this] { Show(); });
@@ -47,6 +50,20 @@ bool frmMid::MayUnload() {
   Hide();
   Tray.Visible = true;
   return false;
+}
+
+// The band alone: what the desk's button says of the scroll stays as it was. Meant so.
+void frmMid::ShowCrawler(bool show) {
+  CrawlerShown = show;
+  mnuShowCrawlersAd.Checked = show;
+  auto& output = station_.forms.Get<frmPlayer>();
+  output.PicAd.Visible = show;
+  output.Timer1.Enabled = show;
+}
+
+void frmMid::mnuShowCrawlersAd_Click() {
+  SkippingFailures([this] { ShowCrawler(!CrawlerShown); });
+  station_.stores.SettingsIni.WriteValue("AdSettings", "Show", CrawlerShown ? "True" : "False");
 }
 
 void frmMid::mnuMasking_Click() {

@@ -18,6 +18,11 @@ class frmMid : public Form {
   TrayIcon Tray{*this, "Tray"};
   MenuItem mnuPlayer{*this, "mnuPlayer"};
   MenuItem mnuPlayList{*this, "mnuPlayList"};
+  MenuItem mnuAd{*this, "mnuAd"};
+  MenuItem mnuShowHideAd{*this, "mnuShowHideAd"};
+  MenuItem mnuShowCrawlersAd{*this, "mnuShowCrawlersAd"};
+  MenuItem mnuAdSettings{*this, "mnuAdSettings"};
+  MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
   MenuItem mnuOutput{*this, "mnuOutput"};
   MenuItem mnuMasking{*this, "mnuMasking"};
 
@@ -43,9 +48,11 @@ class frmMid : public Form {
   void RestoreMonitor();
   void RestoreOutput();
   void RestoreCrawler();
+  void ShowCrawler(bool show);
   void RestoreLeftSideAd();
   void RestorePlaylist();
   void RestoreDesktop();
+  void mnuShowCrawlersAd_Click();
   void mnuMasking_Click();
   void RegisterRunAtStart();
   void OnHotKey(int id);

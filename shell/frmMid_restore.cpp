@@ -1,5 +1,6 @@
 // The walk over Settings.ini that brings the station back on air. Its order is part of the design: the output window
 // exists, sized and hidden, from the first step.
+#include "ads/frmAdSett.h"
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
@@ -18,7 +19,10 @@ bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
 
 void frmMid::RestoreMonitor() {
   OnMonitor2 = ShowKeySays("Output", "Monitor2");
-  if (!OnMonitor2) station_.forms.Unload<frmPlayer>();
+  if (!OnMonitor2) {
+    station_.forms.Unload<frmPlayer>();
+    station_.forms.Unload<frmAdSett>();
+  }
   MoveTo();
 }
 
@@ -30,10 +34,9 @@ void frmMid::RestoreOutput() {
 }
 
 void frmMid::RestoreCrawler() {
-  CrawlerShown = ShowKeySays("AdSettings");
-  auto& output = station_.forms.Get<frmPlayer>();
-  output.PicAd.Visible = CrawlerShown;
-  output.Timer1.Enabled = CrawlerShown;
+  ShowCrawler(ShowKeySays("AdSettings"));
+  // The desk comes to life either way: its load puts the ad that was there last into the band, seen or not.
+  station_.forms.Get<frmAdSett>().Hide();
 }
 
 void frmMid::RestoreLeftSideAd() {

@@ -10,12 +10,14 @@ class StartUpTest : public StationTest {
     Advance(2s);
   }
 
-  static inline const Names kFirstRun{
-      "frmLoad loaded",   "frmLoad shown",    "frmMid loaded",
-      "frmPlayer loaded", "cursor down",      "taskbar hidden",
-      "frmMid shown",     "frmMid hidden",    "run at log-on \"My App\" /station/corvanta",
-      "hot key 0 Ctrl+M", "hot key 1 Ctrl+X", "hot key 2 Ctrl+T",
-      "hot key 3 Ctrl+O", "screen saver 0",   "frmLoad unloaded"};
+  static inline const Names kFirstRun{"frmLoad loaded",   "frmLoad shown",
+                                      "frmMid loaded",    "frmPlayer loaded",
+                                      "frmAdSett loaded", "cursor down",
+                                      "taskbar hidden",   "frmMid shown",
+                                      "frmMid hidden",    "run at log-on \"My App\" /station/corvanta",
+                                      "hot key 0 Ctrl+M", "hot key 1 Ctrl+X",
+                                      "hot key 2 Ctrl+T", "hot key 3 Ctrl+O",
+                                      "screen saver 0",   "frmLoad unloaded"};
 };
 
 TEST_F(StartUpTest, TheSplashStandsTwoSecondsInTheMiddleOfTheScreen) {

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QMap>
 
+#include "ads/frmAdSett.h"
 #include "platform/qt/forms/FormLoader.h"
 #include "platform/qt/forms/Texts.h"
 #include "playlist/frmPlaylist.h"
@@ -43,6 +44,21 @@ TEST_F(LayoutsTest, CaptionsAreTheStationsTextsLetterForLetter) {
   EXPECT_EQ(Shown<QCheckBox>(form.chkRendomPlay).text(), "Random play  ");
   EXPECT_EQ(Shown<QCheckBox>(form.ChkQuickPlay).text(), "Enable Quick player");
   EXPECT_EQ(form.cmbPlaylist.Text.Get(), "Select playlist");
+}
+
+TEST_F(LayoutsTest, TheDeskOfTheCrawlerAdsHasItsTextsLetterForLetter) {
+  frmAdSett& form = Get<frmAdSett>();
+  EXPECT_EQ(form.Caption.Get(), "Crawlers Ad settings");
+  EXPECT_EQ(form.btnHeader.Caption.Get(), "Load &Header");
+  EXPECT_EQ(form.btnLoadScorl.Caption.Get(), "Load &Scorl");
+  EXPECT_EQ(form.btnLoadLeft.Caption.Get(), "Load left side Stiker");
+  EXPECT_EQ(form.btnLoadRight.Caption.Get(), "Load right side Stiker");
+  EXPECT_EQ(form.LoadAd.Caption.Get(), "&Save");
+  EXPECT_EQ(form.cmdRemove.Caption.Get(), "&Remove");
+  EXPECT_EQ(form.btnView.Caption.Get(), "Preview Ad");
+  EXPECT_EQ(form.btnPlay.Caption.Get(), "Stop");
+  EXPECT_EQ(Shown<QCheckBox>(form.chkAdActive).text(), "Active");
+  EXPECT_EQ(Shown<QCheckBox>(form.chkView).text(), "Auto preview");
 }
 
 TEST_F(LayoutsTest, NoTwoControlsShareAKey) {
