@@ -60,8 +60,51 @@ def time_of_clock(pixels):
     return sum(2**bit for bit, name in enumerate(names) if name == "white") / HALF_SECONDS
 
 
+def full_hd(seconds=40):
+    """A moving picture of 1920 by 1080."""
+    video = ["-f", "lavfi", "-i", f"testsrc2=s=1920x1080:r=25:d={seconds}"]
+    return _made(f"full-hd-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
+
+
 def picture(colour):
     return _made(f"{colour}.png", "-f", "lavfi", "-i", f"color=c={_hex(colour)}:s=640x360:d=1", "-frames:v", "1")
+
+
+def jpeg(colour, width, height):
+    """A picture of one colour and of that size."""
+    size = f"{width}x{height}"
+    recipe = ["-f", "lavfi", "-i", f"color=c={_hex(colour)}:s={size}:d=1", "-frames:v", "1"]
+    return _made(f"{colour}-{size}.jpg", *recipe, "-q:v", "1", "-pix_fmt", "yuvj444p")
+
+
+RULER_CELL = 16
+RULER_ROW = 8
+RULER_BITS = 9
+RULER_WIDTH = RULER_CELL * 2**RULER_BITS
+RULER_HEIGHT = RULER_ROW * (1 + RULER_BITS)
+
+
+def ruler():
+    """A picture in which every place can be told from its surroundings: in the first row black and white cells take
+    turns, and the rows under it hold the number of the cell, a bit each, the lowest first."""
+    rows = [bytes(255 * (x // RULER_CELL >> bit & 1) for x in range(RULER_WIDTH)) for bit in (0, *range(RULER_BITS))]
+    FOLDER.mkdir(parents=True, exist_ok=True)
+    plain = FOLDER / "ruler.pgm"
+    plain.write_bytes(f"P5 {RULER_WIDTH} {RULER_HEIGHT} 255\n".encode() + b"".join(row * RULER_ROW for row in rows))
+    return _made("ruler.jpg", "-i", plain, "-q:v", "1", "-pix_fmt", "yuvj444p")
+
+
+def place_on_ruler(rows):
+    """Where the ruler's left edge stands, in pixels from the left edge of `rows`, a picture of the whole ruler's height;
+    None where it is not to be seen, or torn."""
+    lights = [[pixel[1] > 127 for pixel in rows[RULER_ROW * row + RULER_ROW // 2]] for row in range(1 + RULER_BITS)]
+    edges = [x for x in range(1, len(lights[0])) if lights[0][x] != lights[0][x - 1]]
+    places = set()
+    for edge in edges[:-1]:
+        middle = edge + RULER_CELL // 2
+        cell = sum(2**bit for bit in range(RULER_BITS) if lights[1 + bit][middle])
+        places.add(edge - RULER_CELL * cell)
+    return places.pop() if len(places) == 1 else None
 
 
 def tone(seconds=2):

@@ -61,6 +61,22 @@ class Station:
             shutil.copy2(file, folder / f"{letter}.mp4")
         return folder
 
+    def crawler_ad(self, name, header, scroll, speed=30, header_height=300, **info):
+        """A crawler ad of these pictures, as the desk would store it; the measures are twips."""
+        folder = self.folder / "Ads" / name
+        folder.mkdir(parents=True)
+        shutil.copy2(header, folder / "header.jpg")
+        shutil.copy2(scroll, folder / "scorl.jpg")
+        description = {"Active": "1", "Header": "header.jpg", "Left": "left.", "Right": "right.", **info}
+        settings = {"Speed": speed, "HeaderHeight": header_height, "SideWidth": "1000", "AdTop": "0"}
+        ini.write(folder / "adinfo.ini", {"Info": description, "Settings": settings})
+        return folder
+
+    def band(self, height):
+        """The lowest `height` rows of the picture on the air: the scrolling picture of an ad of that height."""
+        left, top, width, whole = self.place
+        return self.screen.pixels(left, top + whole - height, width, height)
+
     def start(self, *arguments):
         self._process = self.desk.start(self.program, *arguments, cwd="/")
         return self
