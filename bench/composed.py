@@ -82,6 +82,18 @@ def measure(command, seconds):
     return [(b - a) / took for a, b in zip(before, after)]
 
 
+def compare(commands, seconds):
+    """Measures each command in turn, ROUNDS times; the means of program and X server together, in the same order."""
+    totals = {name: [] for name in commands}
+    print(f"CPU seconds per second, each over {seconds:.0f} s")
+    for _ in range(ROUNDS):
+        for name, command in commands.items():
+            program, server = measure(command, seconds)
+            totals[name].append(program + server)
+            print(f"{name:24} program {program:.3f}  X server {server:.3f}  together {program + server:.3f}", flush=True)
+    return [statistics.mean(total) for total in totals.values()]
+
+
 def main():
     seconds = float(sys.argv[1]) if len(sys.argv) > 1 else 20
     video, header, scroll = clip(), picture("header.jpg", "1920x40"), picture("scroll.jpg", "6000x90")
@@ -100,14 +112,7 @@ def main():
             "-vf", graph, video,
         ],
     }
-    totals = {name: [] for name in commands}
-    print(f"CPU seconds per second, each over {seconds:.0f} s")
-    for _ in range(ROUNDS):
-        for name, command in commands.items():
-            program, server = measure(command, seconds)
-            totals[name].append(program + server)
-            print(f"{name:24} program {program:.3f}  X server {server:.3f}  together {program + server:.3f}", flush=True)
-    ours, mpv, ffplay = (statistics.mean(total) for total in totals.values())
+    ours, mpv, ffplay = compare(commands, seconds)
     print(f"station / mpv    {ours / mpv:.2f}")
     print(f"station / ffplay {ours / ffplay:.2f}")
 

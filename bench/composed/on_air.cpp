@@ -1,6 +1,11 @@
-// composed_on_air CLIP HEADER SCROLL: the output window of the station over the whole screen, with the clip on the air,
-// again and again, under a crawler band of the two pictures at 2 pixels a tick.
+// composed_on_air CLIP [HEADER SCROLL [LEFT RIGHT]]: the output window of the station over the whole screen, with the
+// clip on the air, again and again, and over it a crawler band of the pictures at 2 pixels a tick. Prints, every
+// second: ticks of the frame clock, late ones, and how late the latest came in milliseconds.
 
+#include <string>
+#include <vector>
+
+#include "bench/composed/LateTicks.h"
 #include "output/CurrentAd.h"
 #include "output/frmPlayer.h"
 #include "platform/Windows.h"
@@ -8,16 +13,18 @@
 #include "settings/Station.h"
 
 int main(int argc, char** argv) {
-  if (argc != 4) return 2;
   QtWorld outside;
-  const std::string clip = argv[1];
-  const std::string header = argv[2];
-  const std::string scroll = argv[3];
+  std::vector<std::string> files(argv + 1, argv + argc);
+  if (files.size() != 1 && files.size() != 3 && files.size() != 5) return 2;
+  const bool withBand = files.size() > 1;
+  files.resize(5);
+  const std::string clip = files[0];
 
   Station station(outside.world, outside.ProgramFolder());
   auto& ad = station.Shared<CurrentAd>();
   ad.CrawlerSpeed = "30";
   ad.CrawlerHeaderHeight = "600";
+  ad.CrawlerSideWidth = "1500";
   auto& output = station.forms.Get<frmPlayer>();
   const auto layOut = [&] {
     const PixelSize screen = outside.world.windows.ScreenSize();
@@ -26,10 +33,14 @@ int main(int argc, char** argv) {
     output.Height = screen.height * kTwipsPerPixel;
   };
   layOut();
+  const auto viewAd = [&] { output.ViewAd(files[1], files[2], files[3], files[4]); };
   output.ItemOver.Connect([&] { output.MainPlay(clip); });
-  output.CrawlerLeft.Connect([&] { output.ViewAd(header, scroll, "", ""); });
+  output.CrawlerLeft.Connect(viewAd);
+  output.PicAd.Visible = withBand;
+  output.Timer1.Enabled = withBand;
   output.Show();
   output.MainPlay(clip);
-  output.ViewAd(header, scroll, "", "");
+  if (withBand) viewAd();
+  const LateTicks late(outside.world.scheduler, outside.world.clock);
   return outside.Run();
 }
