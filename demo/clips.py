@@ -21,10 +21,17 @@ def make(path, *arguments):
     return path
 
 
+FONT = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf"
+
+
+def line(text, size, left):
+    """A filter that writes `text` half way up the picture, `size` pixels high, from `left` on."""
+    return f"drawtext=fontfile={FONT}:text='{text}':fontsize={size}:fontcolor=white:x={left}:y=(h-th)/2"
+
+
 def caption(text):
     """A filter that writes `text` across the lower part of the picture, on a dark plate."""
-    font = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf"
     return (
-        f"drawtext=fontfile={font}:text='{text}':fontsize=56:fontcolor=white:"
+        f"drawtext=fontfile={FONT}:text='{text}':fontsize=56:fontcolor=white:"
         "box=1:boxcolor=black@0.6:boxborderw=24:x=(w-tw)/2:y=h*0.78"
     )

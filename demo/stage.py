@@ -43,6 +43,13 @@ PROGRAMME = [
     ),
 ]
 
+# Name of the ad, company, what scrolls, and the colours of header and scroll.
+CRAWLERS = [
+    ("Bakery", "Sunrise Bakery", "Fresh bread from six in the morning, every day but Monday", "0x8a4b1c", "0x3a2010"),
+    ("Harbour fair", "Town Council", "The harbour fair opens on Saturday at noon, with fireworks at ten", "0x1c5a8a", "0x102838"),
+    ("Library", "Public Library", "Reading hour for children on Wednesdays at four", "0x2c7a4b", "0x12301e"),
+]
+
 SETTINGS = {
     "Settings": {
         "ShowMouse": "1",
@@ -51,6 +58,7 @@ SETTINGS = {
         "Ext": "*.mp4;*.mkv;*.avi;*.mpg;*.mp3;*.wav;*.jpg;*.png",
     },
     "Output": {"Show": "True"},
+    "AdSettings": {"Show": "True", "LastAd": "1"},
     "Playlist": {
         "LastPlay": "1",
         "OneAfterAnother": "1",
@@ -94,11 +102,32 @@ def running_order(folder):
     return rows
 
 
+def plate(path, width, height, colour, text, place):
+    """A JPEG of one colour with a line of text on it."""
+    ground = ["-f", "lavfi", "-i", f"color=c={colour}:s={width}x{height}:d=1"]
+    clips.make(path, *ground, "-vf", clips.line(text, height * 6 // 10, place), "-frames:v", "1", "-q:v", "2")
+
+
+def crawlers(folder):
+    for name, company, text, header, scroll in CRAWLERS:
+        ad = folder / name
+        plate(ad / "header.jpg", 1024, 36, header, company, "(w-tw)/2")
+        plate(ad / "scorl.jpg", 2400, 56, scroll, text, "1024")
+        info = {
+            "CompanyName": company, "Address": "", "StartDate": "1/1/2026", "EndDate": "12/31/2026", "Active": "1",
+            "Header": "header.jpg", "Left": "left.", "Right": "right.",
+        }
+        settings = {"Speed": "30", "HeaderHeight": "540", "SideWidth": "1500", "AdTop": "0"}
+        write_ini(ad / "adinfo.ini", {"Info": info, "Settings": settings})
+
+
 def main():
     program, station = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     clip_folder = station / "Media" / "Clips"
     for _, _, file_name, recipe in PROGRAMME:
         clips.make(clip_folder / file_name, *recipe)
+    if not (station / "Ads").exists():
+        crawlers(station / "Ads")
     SETTINGS["Playlist"]["FolderPath"] = str(clip_folder)
     write_ini(station / "Settings.ini", SETTINGS)
     write_ini(station / "Window.ini", WINDOWS)
