@@ -46,6 +46,18 @@ def main():
             until("the duration", lambda: reader.text_of("Duration:") == "0:0:20")
             time.sleep(1)
             take(screen, manager, "playlist-manager")
+            screen.ask_to_close(manager)
+            screen.keys("ctrl+m")
+            for entry in ("Advertisment", "Ad Settings", "Crawlers  Ad settings"):
+                reader.press(entry, "menu item")
+            ads = until("the desk of the crawler ads", lambda: screen.window(form="frmAdSett"))
+            reader.press("Bakery", "table cell")
+            time.sleep(1)
+            take(screen, ads, "crawler-ads")
+            reader.press("Preview Ad")
+            preview = until("the preview", lambda: screen.window(form="frmAdView"))
+            time.sleep(LAID_OUT)
+            take(screen, preview, "ad-preview")
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
