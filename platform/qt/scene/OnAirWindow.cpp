@@ -1,6 +1,7 @@
 #include "platform/qt/scene/OnAirWindow.h"
 
 #include <QMouseEvent>
+#include <QPlatformSurfaceEvent>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -96,7 +97,6 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   const auto visible = [this] {
     ApplyPlace();
     window_->create();
-    SetWindowClass(*window_, form_.Name());
     window_->setVisible(form_.Visible);
   };
   following_.push_back(form.Pointer.Changed.Subscribe([this] { window_->setCursor(ShapeOf(form_.Pointer)); }));
@@ -216,6 +216,12 @@ void OnAirWindow::EndDrag() {
 
 bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
+    case QEvent::PlatformSurface:
+      // Each time: Qt may make the native window of a hidden form anew when it is shown.
+      if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
+        SetWindowClass(*window_, form_.Name());
+      }
+      break;
     case QEvent::Move:
     case QEvent::Resize:
       settled_.start();
