@@ -36,7 +36,8 @@ class MediaPlayer {
   virtual ~MediaPlayer() = default;
 
   // Opens a file, under its very name on the disk (Files::Resolve), or a stream, and starts it at once, in place of
-  // what played before; that is no end of the former item. The empty text closes what is open.
+  // what played before; that is no end of the former item, and an end of it that has not been heard yet is heard no
+  // more. The empty text closes what is open.
   virtual void Open(const std::string& url) = 0;
   // Goes on from a pause; behind an end or a stop the item starts again from its beginning.
   virtual void Play() = 0;

@@ -79,6 +79,7 @@ bool MpvPlayer::HasInstance() {
 
 void MpvPlayer::Open(const std::string& url) {
   Forget();
+  ++item_;
   url_ = url;
   wish_.reset();
   opened_ = false;
@@ -175,8 +176,11 @@ void MpvPlayer::SetStretchToFit(bool stretch) {
 void MpvPlayer::Enter(PlayState state) {
   if (state == state_) return;
   state_ = state;
-  QMetaObject::invokeMethod(
-      this, [this, state] { listener_.PlayStateChanged(state); }, Qt::QueuedConnection);
+  const auto tell = [this, state, item = item_] {
+    // Another item may be open by now: the end of the former one is none of its own.
+    if (item == item_ || state == state_) listener_.PlayStateChanged(state);
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void MpvPlayer::EnterPlaying() {
@@ -232,8 +236,10 @@ void MpvPlayer::Replied(const mpv_event& event) {
     }
   } else if (ticket == durationTicket_) {
     if (event.error >= 0) Tell(*static_cast<const mpv_event_property*>(event.data));
-    QMetaObject::invokeMethod(
-        this, [this] { listener_.MediaChanged(); }, Qt::QueuedConnection);
+    const auto tell = [this, item = item_] {
+      if (item == item_) listener_.MediaChanged();
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
   }
 }
 

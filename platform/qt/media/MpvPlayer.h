@@ -64,6 +64,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   std::unique_ptr<MpvInstance> mpv_;
 
   std::string url_;
+  std::uint64_t item_ = 0;  // counts what was opened
   PlayState state_ = PlayState::kUndefined;
   bool paused_ = false;
   bool mute_ = false;

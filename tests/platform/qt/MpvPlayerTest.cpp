@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QTcpServer>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -79,6 +80,23 @@ TEST_F(MpvPlayerTest, TheEndOfAFormerItemIsNotTakenForThatOfTheNext) {
     EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
     EXPECT_NEAR(player->Duration(), 20, 0.2);
   }
+}
+
+TEST_F(MpvPlayerTest, AnEndThatIsNotHeardYetWhenTheNextItemIsOpenedIsNeverHeard) {
+  const std::string lasting = test_media::Clip("lasting.mp4", Qt::blue, 20);
+  player->Open(test_media::Clip("brief.mp4", Qt::red, 0.2));
+  QObject queue;
+  // Stands in the queue before whatever the player's next event brings.
+  std::function<void()> lookAgain = [&] {
+    if (player->State() == PlayState::kMediaEnded) {
+      player->Open(lasting);
+    } else {
+      QMetaObject::invokeMethod(&queue, lookAgain, Qt::QueuedConnection);
+    }
+  };
+  lookAgain();
+  ASSERT_TRUE(Until([&] { return player->State() == PlayState::kPlaying && player->Duration() > 10; }));
+  EXPECT_EQ(heard.Times(PlayState::kMediaEnded), 0);
 }
 
 TEST_F(MpvPlayerTest, WhatIsNoMediaRaisesNoEnd) {
