@@ -1,30 +1,21 @@
 #include "output/Placement.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "platform/WholeNumber.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
 
-// Far beyond any screen, and two of them can still be added up.
-constexpr double kFarthest = 1e9;
-
-int Pixels(Twips measure) {
-  return CutToWhole<int>(std::round(std::clamp(measure / kTwipsPerPixel, -kFarthest, kFarthest)));
-}
-
 void MoveWindow(Form& form, int left, int top) {
-  form.Left = left * kTwipsPerPixel;
-  form.Top = top * kTwipsPerPixel;
+  form.Left = ToTwips(left);
+  form.Top = ToTwips(top);
 }
 
 }  // namespace
 
 PixelRect WindowRect(const Form& form) {
-  const int left = Pixels(form.Left), top = Pixels(form.Top);
-  return {left, top, left + Pixels(form.Width), top + Pixels(form.Height)};
+  const int left = ToPixels(form.Left), top = ToPixels(form.Top);
+  return {left, top, left + ToPixels(form.Width), top + ToPixels(form.Height)};
 }
 
 void MoveToMonitor(Form& form, const cMonitors& monitors, int index) {

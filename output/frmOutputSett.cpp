@@ -6,8 +6,8 @@
 
 frmOutputSett::frmOutputSett(Station& station)
     : Form(station.forms, "frmOutputSett", Kind::kOperator), monitors_(station.world.monitors) {
-  Width = 420 * kTwipsPerPixel;
-  Height = 200 * kTwipsPerPixel;
+  Width = ToTwips(420);
+  Height = ToTwips(200);
   const auto skipping = [](auto statement) { return [statement] { SkippingFailures(statement); }; };
   cmdMove.Click.Connect(skipping([this] { MoveToMonitor(*this, monitors_, 2); }));
   cmdCentre.Click.Connect(skipping([this] { CentreOnMonitor(*this, Chosen()); }));
@@ -33,8 +33,8 @@ void frmOutputSett::cmdMaximise_Click() {
   const cMonitor& chosen = Chosen();
   const auto now = monitors_.MonitorForWindow(WindowRect(*this));
   if (!now || now->hMonitor() != chosen.hMonitor()) {
-    Left = chosen.Left() * kTwipsPerPixel;
-    Top = chosen.Top() * kTwipsPerPixel;
+    Left = ToTwips(chosen.Left());
+    Top = ToTwips(chosen.Top());
   }
   Maximised = true;
 }

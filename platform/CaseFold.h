@@ -4,8 +4,9 @@
 #include <string>
 #include <string_view>
 
-// Comparison without regard to case, for names of files, sections, keys and rows. Texts are UTF-8; letters of the
-// Latin, Greek, Cyrillic and Armenian scripts are folded one by one. Bytes that are not UTF-8 stand for themselves.
+// Comparison without regard to case, for names of files, sections and keys and for the rows of lists. Texts are UTF-8;
+// letters of the Latin, Greek, Cyrillic and Armenian scripts are folded one by one. Bytes that are not UTF-8 stand for
+// themselves.
 
 // The text with every letter in its lower form; the locale plays no part.
 std::string FoldCase(std::string_view text);

@@ -20,8 +20,8 @@ class Scheduler {
 
   // Calls `tick` once every `interval` until it is cancelled, for the first time one interval from now. Ticks come by
   // due time, equal ones in the order started. A tick that is late is left out, never caught up. A tick may come while
-  // an earlier tick of the same timer stands in a dialog. Intervals of 16 ms or less come once an output frame, at a
-  // steady 60 a second: that is the floor.
+  // an earlier tick of the same timer stands in a dialog. Intervals of 16 ms or less come once an output frame, at the
+  // display's own steady rate from 49 to 61 a second and at 60 where that is unknown: that is the floor.
   virtual Id Start(std::chrono::milliseconds interval, TickPhase phase, Tick tick) = 0;
 
   // Ends a timer; from inside its own tick too. An unknown id is ignored.

@@ -6,7 +6,7 @@
 
 namespace {
 
-Twips Middle(int screenPixels, Twips size) { return (screenPixels * kTwipsPerPixel - size) / 2; }
+Twips Middle(int screenPixels, Twips size) { return (ToTwips(screenPixels) - size) / 2; }
 
 }  // namespace
 

@@ -7,8 +7,8 @@
 
 frmLoad::frmLoad(Station& station) : Form(station.forms, "frmLoad", Kind::kOperator), station_(station) {
   Caption = kStandardTitle;
-  Width = 480 * kTwipsPerPixel;
-  Height = 300 * kTwipsPerPixel;
+  Width = ToTwips(480);
+  Height = ToTwips(300);
   Timer1.Tick.Connect([this] { Timer1_Tick(); });
   Command1.Click.Connect([this] { Outside().desktop.EndProcess(); });
 }

@@ -19,8 +19,8 @@ constexpr struct {
 }  // namespace
 
 frmMid::frmMid(Station& station) : Form(station.forms, "frmMid", Kind::kOperator), station_(station) {
-  Width = 720 * kTwipsPerPixel;
-  Height = 260 * kTwipsPerPixel;
+  Width = ToTwips(720);
+  Height = ToTwips(260);
   ThemedButton5.Click.Connect([this] { station_.forms.Get<frmPlaylist>().PlayNext(); });
   ThemedButton6.Click.Connect([this] { station_.forms.Get<frmPlayer>().Player.controls.stop(); });
   mnuPlayList.Click.Connect([this] { station_.forms.Get<frmPlaylist>().Show(); });

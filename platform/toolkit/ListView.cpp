@@ -2,13 +2,14 @@
 
 #include <utility>
 
+#include "platform/CaseFold.h"
 #include "platform/toolkit/Failure.h"
-#include "platform/toolkit/Fold.h"
 
 namespace {
 
+// Both in lower form.
 bool Matches(std::string_view row, std::string_view text, ListView::Match match) {
-  return EqualFolded(match == ListView::Match::kBeginning ? row.substr(0, text.size()) : row, text);
+  return match == ListView::Match::kBeginning ? row.starts_with(text) : row == text;
 }
 
 }  // namespace
@@ -83,8 +84,9 @@ void ListView::EnsureVisible(int index) {
 }
 
 int ListView::FindItem(std::string_view text, Match match) const {
+  const std::string folded = FoldCase(text);
   for (int index = 1; index <= Count(); ++index) {
-    if (Matches(rows_[static_cast<std::size_t>(index) - 1].text, text, match)) return index;
+    if (Matches(FoldCase(rows_[static_cast<std::size_t>(index) - 1].text), folded, match)) return index;
   }
   return 0;
 }

@@ -8,6 +8,11 @@ using Twips = double;
 
 inline constexpr Twips kTwipsPerPixel = 15.0;
 
+// The nearest whole pixel, at most what a coordinate holds. Halves go the same way on both sides of zero, so that a
+// crawl steps evenly. The only way from twips to pixels.
+int ToPixels(Twips twips);
+constexpr Twips ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
+
 struct Colour {
   std::uint8_t red = 0;
   std::uint8_t green = 0;

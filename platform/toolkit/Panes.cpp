@@ -19,8 +19,8 @@ void PictureBox::LoadPicture(const std::string& path) {
     size = *known;
   }
   if (sizing_ == Sizing::kByPicture) {
-    Width = size.width * kTwipsPerPixel;
-    Height = size.height * kTwipsPerPixel;
+    Width = ToTwips(size.width);
+    Height = ToTwips(size.height);
   }
   lastLoad_ += 1;
   Picture = LoadedPicture{file, lastLoad_};

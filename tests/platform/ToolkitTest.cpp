@@ -1,3 +1,4 @@
+#include <limits>
 #include <new>
 #include <stdexcept>
 
@@ -236,6 +237,27 @@ TEST_F(ToolkitTest, ARowIsFoundByItsWholeTextInEitherCase) {
   EXPECT_EQ(list.FindItem("07:00:00 am", ListView::Match::kBeginning), 1);
   EXPECT_EQ(list.FindItem("07:00:00 AM later", ListView::Match::kBeginning), 0);
   EXPECT_EQ(list.FindItem("07:00:00 PM"), 0);
+}
+
+TEST_F(ToolkitTest, LettersOfEveryScriptAreFoundInEitherCase) {
+  ListView& list = Playlists().ListPlay;
+  list.Add({.text = "НОВОСТИ Ä", .subItems = {}});
+  EXPECT_EQ(list.FindItem("новости ä"), 1);
+}
+
+TEST_F(ToolkitTest, TwipsAndPixelsAreFifteenToOneAndHalvesGoTheSameWayOnBothSidesOfZero) {
+  EXPECT_EQ(ToPixels(15450), 1030);
+  EXPECT_EQ(ToPixels(-15), -1);
+  EXPECT_EQ(ToPixels(7.5), 1);
+  EXPECT_EQ(ToPixels(-7.5), 0);
+  EXPECT_EQ(ToPixels(-22.5), -1);
+  EXPECT_EQ(ToTwips(768), 11520);
+}
+
+TEST_F(ToolkitTest, AMeasureThatNoScreenHasIsStillANumberOfPixels) {
+  EXPECT_EQ(ToPixels(1e300), 1'000'000'000);
+  EXPECT_EQ(ToPixels(-1e300), -1'000'000'000);
+  EXPECT_EQ(ToPixels(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
 TEST_F(ToolkitTest, ATickOfTheWallSecondComesJustAfterItAndStaysThereWhenTheClockSteps) {

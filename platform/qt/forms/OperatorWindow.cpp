@@ -64,7 +64,7 @@ void OperatorWindow::TakeLayoutsMeasures() {
   if (form_.Width == 0) form_.Width = ToTwips(Widget().width());
   if (form_.Height == 0) form_.Height = ToTwips(Widget().height());
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect centred(0, 0, Pixels(form_.Width), Pixels(form_.Height));
+  QRect centred(0, 0, ToPixels(form_.Width), ToPixels(form_.Height));
   centred.moveCenter(screen.center());
   if (form_.Left == 0) form_.Left = ToTwips(std::max(screen.left(), centred.left()));
   if (form_.Top == 0) form_.Top = ToTwips(std::max(screen.top(), centred.top()));
@@ -96,8 +96,8 @@ void OperatorWindow::ApplyState() {
 
 void OperatorWindow::Place() {
   if (noting_) return;
-  const QPoint place(Pixels(form_.Left), Pixels(form_.Top));
-  const QSize size(Pixels(form_.Width), Pixels(form_.Height));
+  const QPoint place(ToPixels(form_.Left), ToPixels(form_.Top));
+  const QSize size(ToPixels(form_.Width), ToPixels(form_.Height));
   if (Widget().pos() != place) Widget().move(place);
   if (Widget().size() != size) Widget().resize(size);
 }
@@ -169,7 +169,7 @@ void OperatorWindow::NotePlace() {
   const QRect now(Widget().pos(), Widget().size());
   // Written only where it is another pixel: a place between two pixels that the program chose stays exact.
   const auto note = [](Property<Twips>& measure, int pixels) {
-    if (Pixels(measure) != pixels) measure = ToTwips(pixels);
+    if (ToPixels(measure) != pixels) measure = ToTwips(pixels);
   };
   noting_ = true;
   note(form_.Left, now.left());

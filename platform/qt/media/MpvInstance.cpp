@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/Media.h"
 #include "platform/qt/media/MpvNames.h"
 
 namespace {
@@ -30,6 +31,7 @@ MpvInstance::MpvInstance(const std::string& name, std::shared_ptr<FrameExchange>
   mpv_ = mpv_create();
   if (mpv_ == nullptr) throw std::runtime_error("No media player can be made.");
   for (const auto& [name, value] : mpv_names::kOptions) mpv_set_option_string(mpv_, name, value);
+  mpv_set_option_string(mpv_, mpv_names::kPictureDuration, std::to_string(kPictureSeconds).c_str());
   if (mpv_initialize(mpv_) < 0) {
     mpv_terminate_destroy(mpv_);
     throw std::runtime_error("No media player can be started.");

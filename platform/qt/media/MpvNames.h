@@ -13,6 +13,7 @@ inline constexpr char kTimePos[] = "time-pos";
 inline constexpr char kDuration[] = "duration";
 inline constexpr char kPausedForCache[] = "paused-for-cache";
 inline constexpr char kVideoUnscaled[] = "video-unscaled";
+inline constexpr char kPictureDuration[] = "image-display-duration";
 
 // A player is a surface and nothing else: it reads no configuration, takes no keys, draws no controls, and stays alive
 // between items.
@@ -43,11 +44,10 @@ inline constexpr auto kOptions = std::to_array<std::pair<const char*, const char
     {"audio-file-auto", "no"},
     {"cover-art-auto", "no"},
     {"audio-display", "no"},
-    // The end of an item is its end, and a picture stands for 5 seconds.
+    // The end of an item is its end.
     {"keep-open", "no"},
     {"loop-file", "no"},
     {"loop-playlist", "no"},
-    {"image-display-duration", "5"},
     // Frames come at the moment they are due; the rendering thread must not be held back until then.
     {"video-timing-offset", "0"},
     {"hr-seek", "yes"},

@@ -1,12 +1,9 @@
 #include "platform/qt/scene/ControlItem.h"
 
 #include <QMouseEvent>
-#include <cmath>
+#include <algorithm>
 
-#include "platform/WholeNumber.h"
 #include "platform/qt/Pressed.h"
-
-int ToPixels(Twips twips) { return CutToWhole<int>(std::floor(twips / kTwipsPerPixel + 0.5)); }
 
 ControlItem::ControlItem(Control& control, QQuickItem& parent) : QQuickItem(&parent), control_(&control) {
   setFlag(ItemHasContents);

@@ -7,8 +7,7 @@
 #include "platform/qt/scene/Scene.h"
 #include "platform/toolkit/Control.h"
 
-// One control of an on-air form in the scene: it stands where the control stands and is seen when the control is. The
-// twips of the form become pixels here and in OnAirWindow, and nowhere else.
+// One control of an on-air form in the scene: it stands where the control stands and is seen when the control is.
 class ControlItem : public QQuickItem {
  public:
   ControlItem(Control& control, QQuickItem& parent);
@@ -33,6 +32,3 @@ class ControlItem : public QQuickItem {
   Control* control_;
   std::vector<Subscription> following_;
 };
-
-// The nearest whole pixel; halves go the same way on both sides of zero, so that a crawl steps evenly.
-int ToPixels(Twips twips);

@@ -176,7 +176,7 @@ void OnAirWindow::AdoptPlace() {
   const QRect wanted = WantedPlace();
   const QRect actual = window_->geometry();
   const auto adopt = [](Property<Twips>& measure, int by) {
-    if (by != 0) measure = (ToPixels(measure) + by) * kTwipsPerPixel;
+    if (by != 0) measure = ToTwips(ToPixels(measure) + by);
   };
   const int taller = actual.height() - wanted.height();
   adopt(form_.Left, actual.x() - wanted.x());
@@ -189,8 +189,8 @@ void OnAirWindow::DragWindow(std::function<void()> done) {
   const QPoint from = window_->position();
   drag_ = {pressedAt_,
            [this, from](QPoint moved) {
-             form_.Left = (from.x() + moved.x()) * kTwipsPerPixel;
-             form_.Top = (from.y() + moved.y()) * kTwipsPerPixel;
+             form_.Left = ToTwips(from.x() + moved.x());
+             form_.Top = ToTwips(from.y() + moved.y());
            },
            std::move(done)};
 }
@@ -198,8 +198,8 @@ void OnAirWindow::DragWindow(std::function<void()> done) {
 void OnAirWindow::DragPane(Control& pane, std::function<void()> done) {
   drag_ = {pressedAt_,
            [&pane, left = pane.Left.Get(), top = pane.Top.Get()](QPoint moved) {
-             pane.Left = left + moved.x() * kTwipsPerPixel;
-             pane.Top = top + moved.y() * kTwipsPerPixel;
+             pane.Left = left + ToTwips(moved.x());
+             pane.Top = top + ToTwips(moved.y());
            },
            std::move(done)};
 }

@@ -41,10 +41,4 @@ TEST(WindowPlace, WithoutAnyScreenNothingMoves) {
   EXPECT_EQ(Reachable(QRect(5000, 0, 10, 10), {}), QRect(5000, 0, 10, 10));
 }
 
-TEST(WindowPlace, TwipsAndPixelsAreFifteenToOne) {
-  EXPECT_EQ(Pixels(15450), 1030);
-  EXPECT_EQ(Pixels(-15), -1);
-  EXPECT_EQ(ToTwips(768), 11520);
-}
-
 }  // namespace
