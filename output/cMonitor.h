@@ -21,7 +21,7 @@ class cMonitor {
   int WorkLeft() const { return info_.workArea.left; }
   int WorkTop() const { return info_.workArea.top; }
   // From the monitor's own edge, not from the work area's: a panel on the left or on the top is counted in, and what is
-  // centred by these measures stands off the middle by half of it. Meant so: do not mend it.
+  // centred by these measures stands off the middle by half of it. Meant so.
   int WorkWidth() const { return info_.workArea.right - info_.area.left; }
   int WorkHeight() const { return info_.workArea.bottom - info_.area.top; }
 

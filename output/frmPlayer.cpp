@@ -126,7 +126,7 @@ void frmPlayer::CutToStrip() {
   Height = PicAd.Height.Get();
   PicAd.Top = 0;
   PicAd.Left = 0;
-  Top = Outside().windows.ScreenSize().height * kTwipsPerPixel - PicAd.Height;
+  Top = ToTwips(Outside().windows.ScreenSize().height) - PicAd.Height;
 }
 
 void frmPlayer::Unmask() {
@@ -155,9 +155,9 @@ void frmPlayer::MoveTo(int index) {
 }
 
 void frmPlayer::SetDisplay(const cMonitor& monitor) {
-  Width = kTwipsPerPixel * monitor.WorkWidth();
-  Left = kTwipsPerPixel * monitor.WorkLeft();
-  Top = kTwipsPerPixel * monitor.WorkTop();
+  Width = ToTwips(monitor.WorkWidth());
+  Left = ToTwips(monitor.WorkLeft());
+  Top = ToTwips(monitor.WorkTop());
 }
 
 void frmPlayer::SetHeight() {

@@ -28,8 +28,11 @@ class MediaListener {
 // True of an address with a scheme, such as "http://host/live"; anything else is a path.
 bool IsAddress(std::string_view url);
 
+// How long a picture stands as an item before it ends.
+inline constexpr int kPictureSeconds = 5;
+
 // One player with its picture surface; one instance lasts as long as the surface. It plays video, audio and pictures
-// alike: a picture stands for 5 seconds and then ends. What cannot be played (absent, no media, not a regular file)
+// alike: a picture ends after kPictureSeconds. What cannot be played (absent, no media, not a regular file)
 // raises nothing at all: the state just never becomes kMediaEnded.
 class MediaPlayer {
  public:

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Each option: its box, and its key in Settings.ini. The keys are on users' disks: never change them.
+// Each option: its box, and its key in Settings.ini. The keys are on users' disks, spelling errors and all. Meant so.
 constexpr struct {
   CheckBox frmPlaylist::*box;
   const char* key;
@@ -29,8 +29,8 @@ constexpr struct {
 
 frmPlaylist::frmPlaylist(Station& station) : Form(station.forms, "frmPlaylist", Kind::kOperator), station_(station) {
   Caption = "Playlist manager";
-  Width = 1280 * kTwipsPerPixel;
-  Height = 800 * kTwipsPerPixel;
+  Width = ToTwips(1280);
+  Height = ToTwips(800);
   cmbPlaylist.Text = kNoPlaylist;
   ConnectOptions();
   ConnectFiles();

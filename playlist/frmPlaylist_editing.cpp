@@ -36,6 +36,7 @@ void frmPlaylist::ConnectEditing() {
 void frmPlaylist::btnAdd_Click() {
   const std::string start = TimeText(TP.Value);
   if (FindListItem(ListPlay, start)) {
+    // "chose": meant so.
     MsgBox(start + " already allocated as Play Time, please chose a different time", Buttons::kOk, kPlaylistTitle);
     return;
   }
@@ -57,7 +58,7 @@ void frmPlaylist::cmdRemove_Click() {
   IniFile& playlist = station_.stores.PlaylistIni;
   const std::string askedIn = playlist.Path();
   const std::optional<ListRow> asked = ListPlay.SelectedNow();
-  const Answer answer =
+  const Answer answer =  // "wnat", "pgogram": meant so.
       MsgBox("Are You Sure you wnat to Delete this pgogram from playlist?", Buttons::kYesNo, kDeleteTitle);
   if (answer != Answer::kYes || playlist.Path() != askedIn) return;
   if (!asked) throw Failure("There is no selected row in " + ListPlay.Name() + ".");
@@ -87,6 +88,7 @@ void frmPlaylist::btnCreateList_Click() {
 // The rows of the deleted playlist stay in the list, and what is on the air goes on.
 void frmPlaylist::btnDeletePlaylist_Click() {
   const std::string asked = FilePlaylist.ListIndex >= 0 ? FilePlaylist.FilePath() : "";
+  // "wnat": meant so.
   const Answer answer = MsgBox("Are You Sure you wnat to Delete this playlist?", Buttons::kYesNo, kDeleteTitle);
   if (answer != Answer::kYes) return;
   if (!asked.empty()) Outside().files.Remove(asked);

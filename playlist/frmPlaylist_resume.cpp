@@ -26,6 +26,7 @@ void frmPlaylist::Timer4_Tick() {
     SkippingFailures([&] { WriteSetting("LastPosition", DoubleText(position)); },
                      [&] { WriteSetting("LastIndex", std::to_string(selectedRow() - 1)); });
   } else {
+    // "Schdule": the keys on users' disks. Meant so.
     SkippingFailures([&] { WriteSetting("LastPositionSchdule", DoubleText(position)); },
                      [&] { WriteSetting("LastPlaySchdule", std::to_string(selectedRow())); });
   }

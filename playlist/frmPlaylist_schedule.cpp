@@ -72,6 +72,7 @@ void frmPlaylist::vkCommand2_Click() {
     return;
   }
   if (FindListItem(ListSchedule, key)) {
+    // "chose": meant so.
     MsgBox(key + " already allocated as schedule date, please chose a different schedule date", Buttons::kOk,
            kScheduleTitle);
     return;
@@ -85,6 +86,7 @@ void frmPlaylist::vkCommand2_Click() {
 // A row that comes due while the box stands is selected then; removed is the one that was asked about.
 void frmPlaylist::vkCommand3_Click() {
   const std::optional<ListRow> asked = ListSchedule.SelectedNow();
+  // "wnat": meant so.
   if (MsgBox("Are You Sure you wnat to Delete this Schedule?", Buttons::kYesNo, "DELETE") != Answer::kYes) return;
   if (asked) station_.stores.ScheduleIni.Sections().Remove(asked->text);
   LoadSchedule(ListSchedule);

@@ -68,7 +68,7 @@ void frmPlaylist::PlayNextInSequence() {
 void frmPlaylist::PlayNextFolder() {
   FileList.Refresh();
   if (chkRendomPlay.Ticked()) {
-    // The draw leaves the last file out. Meant so: keep the range.
+    // The draw leaves the last file out. Meant so.
     const int drawn = RandomBetween(1, FileList.ListCount() - 1, Outside().clock);
     SkippingFailures([&] { FileList.ListIndex = drawn - 1; });
   } else {
