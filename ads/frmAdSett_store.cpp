@@ -139,6 +139,7 @@ void frmAdSett::chkAdActive_Click() {
 // The rotation goes on while the question stands: what was selected when it opened is what it is about.
 void frmAdSett::cmdRemove_Click() {
   const std::optional<ListRow> ad = ListAd.SelectedNow();
+  // "wnat": meant so.
   if (MsgBox("Are You Sure you wnat to Delete this AD?", Buttons::kYesNo, "DELETE AD") != Answer::kYes) return;
   if (ad) DeleteAdFolder(station_, AdStore::kCrawler, ad->text);
   ReloadList();

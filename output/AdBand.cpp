@@ -13,7 +13,7 @@ bool IsJpg(const std::string& path) { return path.ends_with("jpg"); }
 void AdBand::View(const std::string& header, const std::string& scroll, const std::string& left,
                   const std::string& right) {
   if (IsJpg(header)) {
-    // The height of the scrolling picture, not of the header's own. Meant so: keep it; Lay sets it anew.
+    // The height of the scrolling picture, not of the header's own. Meant so: Lay sets it anew.
     SkippingFailures([&] { on_.headerSize.LoadPicture(header); },
                      [&] { on_.header.Height = on_.picture.Height.Get(); });
   }
