@@ -93,7 +93,7 @@ class RealPanes : public Windows {
   PictureLoader loader_;
   Scene scene_{scheduler_, loader_};
   PosixFiles files_;
-  MpvEngine media_{MpvEngine::Decoding::kSoftware};
+  MpvEngine media_;
   QtPictures pictures_;
 
  public:
