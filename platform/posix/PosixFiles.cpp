@@ -15,6 +15,7 @@
 #include "platform/posix/RawFile.h"
 #include "platform/posix/ReadAll.h"
 #include "platform/posix/RecoverFolder.h"
+#include "platform/posix/RemoveTree.h"
 #include "platform/posix/ResolvePath.h"
 #include "platform/posix/SafeNames.h"
 
@@ -31,19 +32,6 @@ bool WriteFile(const std::string& path, const std::string& content, int mode) {
   if (!file.IsOpen()) return false;
   if (mode >= 0) fchmod(file.Get(), static_cast<mode_t>(mode));
   return WriteAll(file.Get(), content) && file.Close();
-}
-
-bool RemoveTreeAt(int parent, const char* name) {
-  FileHandle folder(openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-  if (!folder.IsOpen()) return unlinkat(parent, name, 0) == 0;
-  const int listed = dup(folder.Get());
-  const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(listed), closedir);
-  if (entries == nullptr) return false;
-  while (const dirent* entry = readdir(entries.get())) {
-    const std::string_view child = entry->d_name;
-    if (child != "." && child != "..") RemoveTreeAt(folder.Get(), entry->d_name);
-  }
-  return unlinkat(parent, name, AT_REMOVEDIR) == 0;
 }
 
 }  // namespace
@@ -114,13 +102,19 @@ bool PosixFiles::Remove(const std::string& path) {
 }
 
 bool PosixFiles::RemoveTree(const std::string& path) {
-  const std::string target = ResolvePath(path);
+  std::string target = ResolvePath(path);
+  while (target.size() > 1 && target.ends_with('/')) target.pop_back();
   struct stat status;
   if (lstat(target.c_str(), &status) != 0) return errno == ENOENT;
   if (!S_ISDIR(status.st_mode)) return false;
   // First, so that no name appears in the folder while it is emptied.
   flusher_->Forget(target);
-  return RemoveTreeAt(AT_FDCWD, target.c_str());
+  // Out of every list in one step: whatever ends the station now, no half of the folder is left under its name.
+  const std::string folder = FolderOfPath(target);
+  Recover(folder);
+  const std::string hidden = UnfinishedName(folder);
+  if (rename(target.c_str(), hidden.c_str()) != 0) return false;
+  return RemoveTreeAt(AT_FDCWD, hidden.c_str());
 }
 
 bool PosixFiles::CreateFolder(const std::string& path) {
@@ -134,7 +128,9 @@ bool PosixFiles::CreateFolder(const std::string& path) {
 
 std::vector<std::string> PosixFiles::List(const std::string& folder, FileKind kind) const {
   std::vector<std::string> names;
-  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(ResolvePath(folder).c_str()), closedir);
+  const std::string resolved = ResolvePath(folder);
+  if (kind == FileKind::kFolder) Recover(resolved);
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(resolved.c_str()), closedir);
   if (entries == nullptr) return names;
   while (const dirent* entry = readdir(entries.get())) {
     const std::string_view name = entry->d_name;

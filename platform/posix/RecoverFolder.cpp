@@ -12,6 +12,7 @@
 
 #include "platform/posix/FileHandle.h"
 #include "platform/posix/ReadAll.h"
+#include "platform/posix/RemoveTree.h"
 #include "platform/posix/SafeNames.h"
 
 namespace {
@@ -72,6 +73,6 @@ void RecoverFolder(const std::string& folder) {
     }
     const int owner = UnfinishedOwner(name);
     const bool isOwned = owner != 0 && (kill(owner, 0) == 0 || errno != ESRCH);
-    if (!isOwned) unlink((folder + "/" + name).c_str());
+    if (!isOwned) RemoveTreeAt(AT_FDCWD, (folder + "/" + name).c_str());
   }
 }

@@ -6,7 +6,8 @@
 
 // Names of what the station keeps beside its files for their safety. All begin with a dot and are in no list.
 
-// A file that is being written: ".<process>-<number>.unfinished~". No two calls give the same.
+// A file that is being written, or a folder that is being removed: ".<process>-<number>.unfinished~". No two calls give
+// the same.
 std::string UnfinishedName(const std::string& folder);
 // The process that writes such a file; 0 when `name` is no such name.
 int UnfinishedOwner(std::string_view name);

@@ -138,6 +138,37 @@ TEST_F(PosixFilesTest, AFolderIsRemovedWhileItsFilesAreOnTheirWayToTheMedium) {
   }
 }
 
+TEST_F(PosixFilesTest, AFolderWhoseRemovalIsCutOffIsWholeOrGone) {
+  constexpr int kFiles = 300;
+  constexpr int kRounds = 40;
+  for (int round = 0; round < kRounds; ++round) {
+    std::filesystem::create_directories(At("ad/deep"));
+    for (int i = 0; i < kFiles; ++i) WriteByOther(At("ad/deep/" + std::to_string(i)), "x");
+    const pid_t remover = fork();
+    if (remover == 0) {
+      PosixFiles().RemoveTree(At("ad"));
+      _exit(0);
+    }
+    usleep(static_cast<useconds_t>(round) * 100);
+    if (round + 1 < kRounds) kill(remover, SIGKILL);
+    waitpid(remover, nullptr, 0);
+    PosixFiles files;
+    if (!files.List(folder.Path(), FileKind::kFolder).empty()) {
+      EXPECT_LT(round + 1, kRounds);
+      EXPECT_EQ(files.List(At("ad/deep"), FileKind::kRegular).size(), static_cast<std::size_t>(kFiles));
+      EXPECT_TRUE(files.RemoveTree(At("ad/")));
+    }
+    ASSERT_TRUE(Names().empty());
+  }
+}
+
+TEST_F(PosixFilesTest, AHalfRemovedFolderIsInNoListAndGoesAtTheNextStart) {
+  std::filesystem::create_directories(At(".999999999-3.unfinished~/deep"));
+  WriteByOther(At(".999999999-3.unfinished~/deep/file"), "half");
+  EXPECT_TRUE(PosixFiles().List(folder.Path(), FileKind::kFolder).empty());
+  EXPECT_TRUE(Names().empty());
+}
+
 TEST_F(PosixFilesTest, TheRightsOfAFileOutliveAWrite) {
   WriteByOther(At("a.ini"), "old");
   chmod(At("a.ini").c_str(), 0640);
