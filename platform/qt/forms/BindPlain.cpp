@@ -82,6 +82,15 @@ void Bind(Joint& joint, TextBox& control, QLineEdit& widget, const Surfaces&) {
   joint.On(&widget, &QLineEdit::textEdited, [&control](const QString& text) { control.Type(Stored(text)); });
 }
 
+// Qt takes a field that is left for a choice when its text is not that of the present item. Before anything is typed it
+// is, so that only what was typed is a choice.
+void FindPresentItem(QComboBox& widget) {
+  const QString text = widget.currentText();
+  const QSignalBlocker silent(widget);
+  widget.setCurrentIndex(widget.findText(text));
+  widget.setEditText(text);
+}
+
 void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setCompleter(nullptr);  // the text stays as it was typed
@@ -110,6 +119,10 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   if (widget.lineEdit() != nullptr) {
     joint.On(widget.lineEdit(), &QLineEdit::textEdited,
              [&control](const QString& text) { control.Type(Stored(text)); });
+    joint.OnEvents(&widget, [&widget](QEvent& event) {
+      if (event.type() == QEvent::FocusIn) FindPresentItem(widget);
+      return false;
+    });
   }
 }
 
