@@ -83,6 +83,11 @@ bool Create(Station& station, AdStore store, const std::string& name) {
   return false;
 }
 
+bool IsUnfinished(const Files& files, const std::string& folder) {
+  return files.List(folder, FileKind::kRegular) == std::vector<std::string>{"adinfo.ini"} &&
+         files.List(folder, FileKind::kFolder).empty() && files.Read(folder + "/adinfo.ini") == "";
+}
+
 }  // namespace
 
 bool IsAdName(std::string_view name) {
@@ -104,6 +109,13 @@ void LoadVideoAdList(Station& station, const std::string& folder, ListView& list
 bool CreateAdFolder(Station& station, const std::string& name) { return Create(station, AdStore::kCrawler, name); }
 
 bool CreateVideoAdFolder(Station& station, const std::string& name) { return Create(station, AdStore::kVideo, name); }
+
+void RemoveUnfinishedAds(Station& station, AdStore store) {
+  Files& files = station.world.files;
+  for (const std::string& name : files.List(station.dataFolder.Path(Of(store).folder), FileKind::kFolder)) {
+    if (IsAdName(name) && IsUnfinished(files, AdPath(station, store, name))) DeleteAdFolder(station, store, name);
+  }
+}
 
 void DeleteAdFolder(Station& station, AdStore store, const std::string& name) {
   if (IsAdName(name)) DeleteFolderTree(station.world.files, AdPath(station, store, name));

@@ -29,5 +29,9 @@ void LoadVideoAdList(Station& station, const std::string& folder, ListView& list
 bool CreateAdFolder(Station& station, const std::string& name);
 bool CreateVideoAdFolder(Station& station, const std::string& name);
 
+// Removes what a cut left of ads that were being made: folders with nothing in them but an empty adinfo.ini. No such ad
+// could ever be played, or be over. Not for while one is being made.
+void RemoveUnfinishedAds(Station& station, AdStore store);
+
 // Removes the ad with all its files. What is no ad's name removes nothing.
 void DeleteAdFolder(Station& station, AdStore store, const std::string& name);

@@ -1,6 +1,7 @@
 #include "app/roads.h"
 
 #include "ads/frmAdSett.h"
+#include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "playlist/frmPlaylist.h"
 #include "settings/Station.h"
@@ -26,5 +27,11 @@ void ConnectRoads(Station& station) {
   forms.WhenCreated<frmPlayer>([&forms](frmPlayer& output) {
     // The crawler's picture has left the band: the next ad.
     output.CrawlerLeft.Connect([&forms] { forms.Get<frmAdSett>().NextAd(); });
+  });
+
+  // frmPlayer -> frmVideoAdSett
+  forms.WhenCreated<frmPlayer>([&forms](frmPlayer& output) {
+    // A video ad is over: the next one, or the end of the break.
+    output.VideoAdOver.Connect([&forms] { forms.Get<frmVideoAdSett>().NextAd(); });
   });
 }

@@ -1,6 +1,7 @@
 #include "shell/frmMid.h"
 
 #include "ads/frmAdSett.h"
+#include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
@@ -26,6 +27,8 @@ frmMid::frmMid(Station& station) : Form(station.forms, "frmMid", Kind::kOperator
   mnuPlayList.Click.Connect([this] { station_.forms.Get<frmPlaylist>().Show(); });
   mnuShowCrawlersAd.Click.Connect([this] { mnuShowCrawlersAd_Click(); });
   mnuScorlAsSettings.Click.Connect([this] { station_.forms.Get<frmAdSett>().Show(); });
+  mnuShowVideoAd.Click.Connect([this] { mnuShowVideoAd_Click(); });
+  mnuVideoAdSettings.Click.Connect([this] { station_.forms.Get<frmVideoAdSett>().Show(); });
   mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
   Picture1.MouseDown.Connect([this](MouseButton) { MoveTo(); });
   Tray.DblClick.Connect([this] { Show(); });
@@ -64,6 +67,17 @@ void frmMid::ShowCrawler(bool show) {
 void frmMid::mnuShowCrawlersAd_Click() {
   SkippingFailures([this] { ShowCrawler(!CrawlerShown); });
   station_.stores.SettingsIni.WriteValue("AdSettings", "Show", CrawlerShown ? "True" : "False");
+}
+
+// The countdown alone: a break that runs goes on to its end, which starts the countdown again. Meant so.
+void frmMid::mnuShowVideoAd_Click() {
+  VideoAdShown = !VideoAdShown;
+  mnuShowVideoAd.Checked = VideoAdShown;
+  SkippingFailures([this] { station_.forms.Get<frmVideoAdSett>().Timer1.Enabled = VideoAdShown; },
+                   [this] {
+                     if (!VideoAdShown) station_.forms.Unload<frmVideoAdSett>();
+                   });
+  station_.stores.SettingsIni.WriteValue("VideoAd", "Show", VideoAdShown ? "True" : "False");
 }
 
 void frmMid::mnuMasking_Click() {

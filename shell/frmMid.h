@@ -21,8 +21,10 @@ class frmMid : public Form {
   MenuItem mnuAd{*this, "mnuAd"};
   MenuItem mnuShowHideAd{*this, "mnuShowHideAd"};
   MenuItem mnuShowCrawlersAd{*this, "mnuShowCrawlersAd"};
+  MenuItem mnuShowVideoAd{*this, "mnuShowVideoAd"};
   MenuItem mnuAdSettings{*this, "mnuAdSettings"};
   MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
+  MenuItem mnuVideoAdSettings{*this, "mnuVideoAdSettings"};
   MenuItem mnuOutput{*this, "mnuOutput"};
   MenuItem mnuMasking{*this, "mnuMasking"};
 
@@ -31,6 +33,7 @@ class frmMid : public Form {
   bool OutputShown = false;
   bool CrawlerShown = false;
   bool LeftSideAdShown = false;
+  bool VideoAdShown = false;
   bool MaskingOn = false;  // not kept: always off after a start; outlives an output window that is made anew
 
   // Puts every feature back as Settings.ini says it stood when the station last ran. Asks nothing; a feature that
@@ -50,9 +53,11 @@ class frmMid : public Form {
   void RestoreCrawler();
   void ShowCrawler(bool show);
   void RestoreLeftSideAd();
+  void RestoreVideoAd();
   void RestorePlaylist();
   void RestoreDesktop();
   void mnuShowCrawlersAd_Click();
+  void mnuShowVideoAd_Click();
   void mnuMasking_Click();
   void RegisterRunAtStart();
   void OnHotKey(int id);

@@ -1,6 +1,7 @@
 // The walk over Settings.ini that brings the station back on air. Its order is part of the design: the output window
 // exists, sized and hidden, from the first step.
 #include "ads/frmAdSett.h"
+#include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
@@ -10,7 +11,8 @@
 
 void frmMid::LoadSett() {
   SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreOutput(); }, [this] { RestoreCrawler(); },
-                   [this] { RestoreLeftSideAd(); }, [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
+                   [this] { RestoreLeftSideAd(); }, [this] { RestoreVideoAd(); }, [this] { RestorePlaylist(); },
+                   [this] { RestoreDesktop(); });
 }
 
 bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
@@ -49,6 +51,15 @@ void frmMid::RestoreLeftSideAd() {
     output.Player.Width = output.Width.Get();
     output.Player.Left = 0;
   }
+}
+
+// Hiding the form brings it to life. Without breaks it is not made before it is needed.
+void frmMid::RestoreVideoAd() {
+  VideoAdShown = ShowKeySays("VideoAd");
+  mnuShowVideoAd.Checked = VideoAdShown;
+  if (!VideoAdShown) return;
+  auto& ads = station_.forms.Get<frmVideoAdSett>();
+  SkippingFailures([&] { ads.Timer1.Enabled = true; }, [&] { ads.Hide(); });
 }
 
 // Shown and hidden at once: that brings the form to life, and its load resumes play.

@@ -15,6 +15,7 @@ constexpr EmptyTextRow kTexts[] = {
     {"frmPlaylist", "FileQuick", "Press \"Load folder\" and choose a folder with videos."},
     {"frmPlaylist", "ListSchedule", "Choose date, time and playlist, then press \"Add schedule\"."},
     {"frmPlaylist", "ListTime", "Not in use."},
+    {"frmVideoAdSett", "ListAd", "Press \"Load Ad file\" and choose a video, then press \"Save Ad file\"."},
 };
 
 constexpr char kProperty[] = "whenEmpty";
