@@ -1,7 +1,6 @@
 #include "platform/qt/scene/OnAirWindow.h"
 
 #include <QMouseEvent>
-#include <QPlatformSurfaceEvent>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -98,6 +97,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
     ApplyPlace();
     window_->create();
     window_->setVisible(form_.Visible);
+    SetWindowClass(*window_, form_.Name());  // showing may have made the native window anew
   };
   following_.push_back(form.Pointer.Changed.Subscribe([this] { window_->setCursor(ShapeOf(form_.Pointer)); }));
   following_.push_back(form.Caption.Changed.Subscribe(title));
@@ -216,12 +216,6 @@ void OnAirWindow::EndDrag() {
 
 bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
-    case QEvent::PlatformSurface:
-      // Each time: Qt may make the native window of a hidden form anew when it is shown.
-      if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
-        SetWindowClass(*window_, form_.Name());
-      }
-      break;
     case QEvent::Move:
     case QEvent::Resize:
       settled_.start();
