@@ -339,7 +339,9 @@ TEST_F(RotationTest, AnAdWithoutItsHeaderLeavesTheOldOne) {
   Ads({"a", "b"});
   sim.files.Remove(In("b", "header.jpg"));
   Desk().ListAd.ClickRow(1);
+  Advance(100ms);
   Desk().ListAd.ClickRow(2);
+  Advance(100ms);
   EXPECT_EQ(sim.flash.Find("frmPlayer.Flash")->Shown(), In("a", "header.jpg"));
 }
 
