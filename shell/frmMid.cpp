@@ -1,10 +1,7 @@
 #include "shell/frmMid.h"
 
-#include "ads/frmAdSett.h"
-#include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "platform/Desktop.h"
-#include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
 #include "shell/ConfirmExit.h"
 
@@ -20,18 +17,12 @@ constexpr struct {
 }  // namespace
 
 frmMid::frmMid(Station& station) : Form(station.forms, "frmMid", Kind::kOperator), station_(station) {
-  Width = ToTwips(720);
-  Height = ToTwips(260);
+  Width = ToTwips(960);
+  Height = ToTwips(420);
   ThemedButton5.Click.Connect([this] { station_.forms.Get<frmPlaylist>().PlayNext(); });
   ThemedButton6.Click.Connect([this] { station_.forms.Get<frmPlayer>().Player.controls.stop(); });
-  mnuPlayList.Click.Connect([this] { station_.forms.Get<frmPlaylist>().Show(); });
-  mnuShowCrawlersAd.Click.Connect([this] { mnuShowCrawlersAd_Click(); });
-  mnuScorlAsSettings.Click.Connect([this] { station_.forms.Get<frmAdSett>().Show(); });
-  mnuShowVideoAd.Click.Connect([this] { mnuShowVideoAd_Click(); });
-  mnuVideoAdSettings.Click.Connect([this] { station_.forms.Get<frmVideoAdSett>().Show(); });
-  mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
   Picture1.MouseDown.Connect([this](MouseButton) { MoveTo(); });
-  Tray.DblClick.Connect([this] { Show(); });
+  ConnectMenu();
 }
 
 void frmMid::Load() {
@@ -53,42 +44,6 @@ bool frmMid::MayUnload() {
   Hide();
   Tray.Visible = true;
   return false;
-}
-
-// The band alone: what the desk's button says of the scroll stays as it was. Meant so.
-void frmMid::ShowCrawler(bool show) {
-  CrawlerShown = show;
-  mnuShowCrawlersAd.Checked = show;
-  auto& output = station_.forms.Get<frmPlayer>();
-  output.PicAd.Visible = show;
-  output.Timer1.Enabled = show;
-}
-
-void frmMid::mnuShowCrawlersAd_Click() {
-  SkippingFailures([this] { ShowCrawler(!CrawlerShown); });
-  station_.stores.SettingsIni.WriteValue("AdSettings", "Show", CrawlerShown ? "True" : "False");
-}
-
-// The countdown alone: a break that runs goes on to its end, which starts the countdown again. Meant so.
-void frmMid::mnuShowVideoAd_Click() {
-  VideoAdShown = !VideoAdShown;
-  mnuShowVideoAd.Checked = VideoAdShown;
-  SkippingFailures([this] { station_.forms.Get<frmVideoAdSett>().Timer1.Enabled = VideoAdShown; },
-                   [this] {
-                     if (!VideoAdShown) station_.forms.Unload<frmVideoAdSett>();
-                   });
-  station_.stores.SettingsIni.WriteValue("VideoAd", "Show", VideoAdShown ? "True" : "False");
-}
-
-void frmMid::mnuMasking_Click() {
-  auto& output = station_.forms.Get<frmPlayer>();
-  if (MaskingOn) {
-    output.Unmask();
-  } else {
-    output.Mask();
-  }
-  MaskingOn = !MaskingOn;
-  mnuMasking.Checked = MaskingOn;
 }
 
 void frmMid::RegisterRunAtStart() {

@@ -20,7 +20,7 @@ bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
 }
 
 void frmMid::RestoreMonitor() {
-  OnMonitor2 = ShowKeySays("Output", "Monitor2");
+  Mark(&frmMid::OnMonitor2, ShowKeySays("Output", "Monitor2"));
   if (!OnMonitor2) {
     station_.forms.Unload<frmPlayer>();
     station_.forms.Unload<frmAdSett>();
@@ -31,12 +31,13 @@ void frmMid::RestoreMonitor() {
 void frmMid::MoveTo() { station_.forms.Get<frmPlayer>().MoveTo(OnMonitor2 ? 2 : 1); }
 
 void frmMid::RestoreOutput() {
-  OutputShown = ShowKeySays("Output");
+  Mark(&frmMid::OutputShown, ShowKeySays("Output"));
   if (OutputShown) station_.forms.Get<frmPlayer>().Show();
 }
 
 void frmMid::RestoreCrawler() {
-  ShowCrawler(ShowKeySays("AdSettings"));
+  Mark(&frmMid::CrawlerShown, ShowKeySays("AdSettings"));
+  ShowCrawler(CrawlerShown);
   // The desk comes to life either way: its load puts the ad that was there last into the band, seen or not.
   station_.forms.Get<frmAdSett>().Hide();
 }
@@ -53,13 +54,13 @@ void frmMid::RestoreLeftSideAd() {
   }
 }
 
-// Hiding the form brings it to life. Without breaks it is not made before it is needed.
+// The countdown goes on from where it stood. With the breaks off their form waits until it is needed.
 void frmMid::RestoreVideoAd() {
-  VideoAdShown = ShowKeySays("VideoAd");
-  mnuShowVideoAd.Checked = VideoAdShown;
+  Mark(&frmMid::VideoAdShown, ShowKeySays("VideoAd"));
   if (!VideoAdShown) return;
-  auto& ads = station_.forms.Get<frmVideoAdSett>();
-  SkippingFailures([&] { ads.Timer1.Enabled = true; }, [&] { ads.Hide(); });
+  auto& breaks = station_.forms.Get<frmVideoAdSett>();
+  breaks.Timer1.Enabled = true;
+  breaks.Hide();
 }
 
 // Shown and hidden at once: that brings the form to life, and its load resumes play.

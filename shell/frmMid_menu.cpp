@@ -1,0 +1,197 @@
+// The menu, the tray and the status bar. What can be switched on and off stands in one table, which the menu and the
+// status bar share.
+#include "ads/frmAdSett.h"
+#include "ads/frmVideoAdSett.h"
+#include "output/frmPlayer.h"
+#include "platform/Desktop.h"
+#include "platform/toolkit/Failures.h"
+#include "playlist/frmPlaylist.h"
+#include "settings/TimeTexts.h"
+#include "shell/CNetConn.h"
+#include "shell/ConfirmExit.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMid.h"
+
+namespace {
+
+using Lamp = StatusBar::Lamp;
+
+// Spelled so on screen. Meant so.
+constexpr char kOffline[] = "Your PC is not cinnected to internet. Please try again later.";
+
+constexpr int kTimePanel = 1;
+constexpr int kInternetPanel = 9;
+
+std::string FlagText(bool on) { return on ? "True" : "False"; }
+
+template <class F>
+void ShowForm(StationForms& forms) {
+  forms.Get<F>().Show();
+}
+
+}  // namespace
+
+struct frmMid::Toggle {
+  MenuItem frmMid::*entry;  // null: the status bar tells it, no entry switches it
+  bool frmMid::*flag;
+  const char* section;
+  const char* key;
+  void (frmMid::*turn)(bool on);
+  int panel;  // of the status bar; 0 has none
+  const char* words;
+  Lamp lit;
+};
+
+std::span<const frmMid::Toggle> frmMid::Toggles() {
+  static constexpr Toggle kToggles[] = {
+      {&frmMid::mnuShowCrawlersAd, &frmMid::CrawlerShown, "AdSettings", "Show", &frmMid::ShowCrawler, 2, "Crawlers Ad ",
+       Lamp::kOnAir},
+      {&frmMid::mnuShowVideoAd, &frmMid::VideoAdShown, "VideoAd", "Show", &frmMid::RunVideoAds, 3, "Video Ad ",
+       Lamp::kOn},
+      {nullptr, &frmMid::FlashAdShown, "FlashAd", "Show", nullptr, 4, "Flash Ad ", Lamp::kOnAir},
+      {nullptr, &frmMid::ClockShown, "Clock", "Show", nullptr, 5, "Show clock ", Lamp::kOnAir},
+      {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
+      {nullptr, &frmMid::LogoShown, "logo", "Show", nullptr, 7, "Show logo ", Lamp::kOnAir},
+      {nullptr, &frmMid::StikerShown, "Stiker", "Show", nullptr, 8, "Show Stiker ", Lamp::kOnAir},
+      {&frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show", &frmMid::ShowOutput, 0, "", Lamp::kNone},
+      {&frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2", nullptr, 0, "", Lamp::kNone},
+  };
+  return kToggles;
+}
+
+void frmMid::ConnectMenu() {
+  for (const Toggle& toggle : Toggles()) {
+    if (toggle.entry != nullptr) (this->*toggle.entry).Click.Connect([this, &toggle] { Choose(toggle); });
+  }
+  mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
+
+  const struct {
+    MenuItem& entry;
+    void (*show)(StationForms& forms);
+  } forms[] = {
+      {mnuPlayList, ShowForm<frmPlaylist>},
+      {mnuScorlAsSettings, ShowForm<frmAdSett>},
+      {mnuVideoAdSettings, ShowForm<frmVideoAdSett>},
+      {mnuAbout2, ShowForm<frmAbout>},
+      {mnuTrayAbout, ShowForm<frmAbout>},
+  };
+  for (const auto& row : forms) {
+    row.entry.Click.Connect([this, show = row.show] { show(station_.forms); });
+  }
+
+  enum class Needs { kNothing, kNetwork };
+  const struct {
+    MenuItem& entry;
+    const char* path;
+    Needs needs;
+  } tools[] = {
+      {mnuSWF_0, "\\Tools\\SWF Easy.exe", Needs::kNothing},
+      {mnuSWF_1, "\\Tools\\FlashMaker.exe", Needs::kNothing},
+      {mnuSWF_2, "\\Tools\\SWFText.exe", Needs::kNothing},
+      {mnuVideoConvert_0, "\\Tools\\DVDConverter.exe", Needs::kNothing},
+      {mnuVideoConvert_1, "\\Tools\\FormatFactory.exe", Needs::kNothing},
+      {mnuTeamviewer, "\\Tools\\Tolvex.exe", Needs::kNetwork},
+      {mnuQuicksupport, "\\Tools\\Tolvex.exe", Needs::kNetwork},
+  };
+  for (const auto& row : tools) {
+    const auto start = [this, path = station_.dataFolder.Path(row.path)] { Outside().desktop.StartTool(path); };
+    row.entry.Click.Connect([this, start, needs = row.needs] {
+      if (needs == Needs::kNetwork) {
+        WhenOnline(start);
+      } else {
+        start();
+      }
+    });
+  }
+
+  mnuTurnOffMonitor.Click.Connect([this] { Outside().desktop.TurnOffMonitor(); });
+  mnuHideMe.Click.Connect([this] { Hide(); });
+  mnuShow.Click.Connect([this] { Show(); });
+  mnuHelp2.Click.Connect([this] { Outside().desktop.ShowGuide(); });
+  for (MenuItem* exit : {&mnuExit, &mnuTrayExit}) {
+    exit->Click.Connect([this] { ConfirmExit(*this); });
+  }
+  Tray.DblClick.Connect([this] { Show(); });
+  Tray.MouseDown.Connect([this](MouseButton button) {
+    if (button == MouseButton::kRight) PopUp(mnuTray);
+  });
+  Timer1.Tick.Connect([this] {
+    Panel.SetPanel(kTimePanel, TimeText(Outside().clock.Now()));
+    UpdateStatusPanels();
+  });
+}
+
+void frmMid::Mark(bool frmMid::*flag, bool on) {
+  this->*flag = on;
+  for (const Toggle& toggle : Toggles()) {
+    if (toggle.flag == flag && toggle.entry != nullptr) (this->*toggle.entry).Checked = on;
+  }
+}
+
+// A feature that fails ends up ticked and written all the same: the next start tries it again. The output window goes
+// to its monitor behind both entries that are about it, and is made anew, hidden, where it was unloaded. Meant so.
+void frmMid::Choose(const Toggle& toggle) {
+  const bool on = !(this->*toggle.flag);
+  Mark(toggle.flag, on);
+  SkippingFailures(
+      [&] {
+        if (toggle.turn != nullptr) (this->*toggle.turn)(on);
+      },
+      [&] { station_.stores.SettingsIni.WriteValue(toggle.section, toggle.key, FlagText(on)); },
+      [&] {
+        if (toggle.flag == &frmMid::OutputShown || toggle.flag == &frmMid::OnMonitor2) MoveTo();
+      });
+}
+
+// The band alone: what the desk's button says of the scroll stays as it was. Meant so.
+void frmMid::ShowCrawler(bool show) {
+  auto& output = station_.forms.Get<frmPlayer>();
+  output.PicAd.Visible = show;
+  output.Timer1.Enabled = show;
+}
+
+// The countdown alone: a break that runs goes on to its end, which starts the countdown again. The form refuses to
+// unload and hides, and keeps its count. Meant so.
+void frmMid::RunVideoAds(bool run) {
+  station_.forms.Get<frmVideoAdSett>().Timer1.Enabled = run;
+  if (!run) station_.forms.Unload<frmVideoAdSett>();
+}
+
+void frmMid::ShowOutput(bool show) {
+  if (show) {
+    station_.forms.Get<frmPlayer>().Show();
+  } else {
+    station_.forms.Unload<frmPlayer>();
+  }
+}
+
+void frmMid::mnuMasking_Click() {
+  auto& output = station_.forms.Get<frmPlayer>();
+  if (MaskingOn) {
+    output.Unmask();
+  } else {
+    output.Mask();
+  }
+  MaskingOn = !MaskingOn;
+  mnuMasking.Checked = MaskingOn;
+}
+
+bool frmMid::netCon() { return CNetConn(Outside().network).IsConnected(); }
+
+void frmMid::WhenOnline(const std::function<void()>& work) {
+  if (netCon()) {
+    work();
+  } else {
+    MsgBox(kOffline);
+  }
+}
+
+void frmMid::UpdateStatusPanels() {
+  const auto tell = [this](int panel, const std::string& words, bool on, Lamp lit) {
+    Panel.SetPanel(panel, words + FlagText(on), on ? lit : Lamp::kOff);
+  };
+  for (const Toggle& toggle : Toggles()) {
+    if (toggle.panel != 0) tell(toggle.panel, toggle.words, this->*toggle.flag, toggle.lit);
+  }
+  tell(kInternetPanel, "Internet ", netCon(), Lamp::kOn);
+}
