@@ -84,5 +84,18 @@ class Copies(unittest.TestCase):
                 self.assertEqual(place.read_text(), "whole")
 
 
+    def test_a_program_ends_by_its_own_time_and_not_by_the_clocks(self):
+        with tempfile.TemporaryDirectory() as folder:
+            copy = Copy(pathlib.Path(folder), pathlib.Path(folder), 1, 1)
+            for script, failure in (("sleep 2", ""), ("while :; do :; done", "program does not end"),
+                                    ("echo '[  FAILED  ] A.B (0 ms)'; exit 1", "program A.B"),
+                                    ("exit 3", "program ends with 3")):  # fmt: skip
+                program = pathlib.Path(folder) / "program"
+                program.write_text(f"#!/bin/sh\n{script}\n")
+                program.chmod(0o755)
+                with self.subTest(script=script):
+                    self.assertEqual(copy._run_tests(program, [], 1), failure)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -1,13 +1,15 @@
 """A copy of the tree to put faults into: its build, and its unit tests run until the first one fails."""
 
 import json
+import math
 import os
 import pathlib
 import resource
 import signal
 import subprocess
 
-LONGEST = 1800  # seconds for a test program without a fault, on a busy machine
+LONGEST = 1800  # seconds of processor for a test program without a fault
+STANDSTILL = 6 * 3600  # seconds after which a program that waits for nothing is given up
 SLOW_TEST = 0.5  # seconds from which on a test is run last
 QUICK, SLOW = "quick", "slow"
 MEMORY = 4 << 30  # bytes that a test program may ask for: a fault may make it ask for ever
@@ -127,12 +129,15 @@ class Copy:
         """The first failure of a test program in words; "" where all its tests pass."""
         process = subprocess.Popen([program, "--gtest_fail_fast", "--gtest_brief=1", *options], cwd=program.parent,
                                    text=True, errors="replace", stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                                   start_new_session=True, preexec_fn=limit_memory)  # fmt: skip
+                                   start_new_session=True,
+                                   preexec_fn=lambda: set_limits(math.ceil(timeout)))  # fmt: skip
         try:
-            output, _ = process.communicate(timeout=timeout)
+            output, _ = process.communicate(timeout=STANDSTILL)
         except subprocess.TimeoutExpired:
             os.killpg(process.pid, signal.SIGKILL)
             process.communicate()
+            return f"{program.name} stands still"
+        if process.returncode == -signal.SIGXCPU:
             return f"{program.name} does not end"
         if process.returncode == 0:
             return ""
@@ -140,6 +145,8 @@ class Copy:
         return f"{program.name} {failed[0] if failed else f'ends with {process.returncode}'}"
 
 
-def limit_memory():
+def set_limits(seconds):
+    # Of the processor, and not by the clock: on a busy machine, or when the run is paused, nothing counts as endless.
+    resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 5))
     resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
