@@ -220,3 +220,112 @@ TEST_F(MonitorsTest, TheOutputSettingsTryThePlacementOutOnThemselves) {
   form.cmdCentre.Press();
   EXPECT_FALSE(form.Maximised);
 }
+
+TEST_F(MonitorsTest, AWindowIsOnTheMonitorThatShowsMostOfItAndOnNoneThatItOnlyTouches) {
+  TwoMonitors();
+  const cMonitors monitors(sim.monitors);
+  const auto on = [&](PixelRect window) {
+    const auto monitor = monitors.MonitorForWindow(window);
+    return monitor ? monitor->Name() : "none";
+  };
+  EXPECT_EQ(on({1900, 0, 1939, 10}), "DESK");
+  EXPECT_EQ(on({1901, 0, 1940, 10}), "AIR");
+  EXPECT_EQ(on({1900, 0, 1940, 10}), "DESK");  // half and half: the first
+  EXPECT_EQ(on({1900, -2000, 1940, 1}), "DESK");
+  EXPECT_EQ(on({0, 1080, 100, 1200}), "none");
+  EXPECT_EQ(on({0, 1079, 100, 1200}), "DESK");
+  EXPECT_EQ(on({-100, 0, 0, 100}), "none");
+  EXPECT_EQ(on({-100, -100, 1, 1}), "DESK");
+  EXPECT_EQ(on({3840, 0, 4000, 100}), "none");
+  EXPECT_EQ(on({3839, 0, 4000, 100}), "AIR");
+  EXPECT_EQ(on({-100, -100, -1, -1}), "none");  // apart both ways
+  EXPECT_EQ(monitors.MonitorForPoint(0, 0)->Name(), "DESK");
+  EXPECT_EQ(monitors.MonitorForPoint(1919, 1079)->Name(), "DESK");
+  EXPECT_EQ(monitors.MonitorForPoint(1920, 0)->Name(), "AIR");
+  EXPECT_FALSE(monitors.MonitorForPoint(0, 1080).has_value());
+  EXPECT_FALSE(monitors.MonitorForPoint(3840, 0).has_value());
+}
+
+TEST_F(MonitorsTest, TheListIsOfItsLastRefreshAndTheCountOfTheDisplaysOfNow) {
+  cMonitors monitors(sim.monitors);
+  TwoMonitors();
+  EXPECT_EQ(monitors.MonitorCount(), 1);
+  EXPECT_EQ(monitors.DisplayMonitorCount(), 2);
+  EXPECT_TRUE(monitors.AllMonitorsSame());
+  monitors.Refresh();
+  EXPECT_EQ(monitors.MonitorCount(), 2);
+  sim.monitors.monitors.clear();
+  monitors.Refresh();
+  EXPECT_EQ(monitors.MonitorCount(), 0);
+  EXPECT_EQ(monitors.VirtualScreenLeft(), 0);
+  EXPECT_EQ(monitors.VirtualScreenTop(), 0);
+  EXPECT_EQ(monitors.VirtualScreenWidth(), 0);
+  EXPECT_EQ(monitors.VirtualScreenHeight(), 0);
+}
+
+TEST_F(MonitorsTest, AMonitorTellsItsMeasures) {
+  const cMonitor monitor(
+      {.handle = 5, .name = "HDMI-1", .area = {100, 200, 1000, 800}, .workArea = {110, 220, 970, 760}});
+  EXPECT_EQ(monitor.hMonitor(), 5u);
+  EXPECT_EQ(monitor.Name(), "HDMI-1");
+  EXPECT_FALSE(monitor.IsPrimary());
+  EXPECT_EQ((std::vector<int>{monitor.Left(), monitor.Top(), monitor.Width(), monitor.Height()}),
+            (std::vector<int>{100, 200, 900, 600}));
+  EXPECT_EQ((std::vector<int>{monitor.WorkLeft(), monitor.WorkTop(), monitor.WorkWidth(), monitor.WorkHeight()}),
+            (std::vector<int>{110, 220, 870, 560}));
+}
+
+TEST_F(MonitorsTest, AWindowsRectangleIsRoundedToWholePixels) {
+  frmPlayer& form = Output();
+  form.Left = 7;
+  form.Top = 8;
+  form.Width = 15 * 100 + 7;
+  form.Height = 15 * 100 + 8;
+  EXPECT_EQ(WindowRect(form), (PixelRect{0, 1, 100, 102}));
+}
+
+TEST_F(MonitorsTest, TheOutputSettingsListTheMonitorsAndBeginWithTheFirstInTheMiddleOfTheScreen) {
+  TwoMonitors();
+  auto& form = station.forms.Get<frmOutputSett>();
+  EXPECT_EQ(form.cboMonitors.List(0), "1. DESK");
+  EXPECT_EQ(form.cboMonitors.List(1), "2. AIR");
+  EXPECT_EQ(form.cboMonitors.Text.Get(), "1. DESK");
+  EXPECT_EQ(form.Left + form.Width / 2, 1920 * 15 / 2);
+  EXPECT_EQ(form.Top + form.Height / 2, 1080 * 15 / 2);
+}
+
+TEST_F(MonitorsTest, MaximisedOnItsOwnMonitorTheOutputSettingsStayAndOnAnotherTheyGoToItsCorner) {
+  TwoMonitors();
+  sim.monitors.monitors[1].area.top = 90;
+  auto& form = station.forms.Get<frmOutputSett>();
+  form.Left = 150;
+  form.Top = 300;
+  form.cmdMaximise.Press();
+  EXPECT_TRUE(form.Maximised);
+  EXPECT_EQ(form.Left, 150);
+  EXPECT_EQ(form.Top, 300);
+  form.cboMonitors.Pick(1);
+  form.cmdMaximise.Press();
+  EXPECT_EQ(form.Left, 1920 * 15);
+  EXPECT_EQ(form.Top, 90 * 15);
+}
+
+TEST_F(MonitorsTest, WithNoMonitorChosenTheOutputSettingsDoNothingAndSayNothing) {
+  auto& form = station.forms.Get<frmOutputSett>();
+  form.cboMonitors.Type("7. NONE");
+  form.Left = 150;
+  sim.trace.Take();
+  form.cmdCentre.Press();
+  form.cmdMaximise.Press();
+  form.cmdMove.Press();  // and there is no second monitor
+  EXPECT_EQ(form.Left, 150);
+  EXPECT_FALSE(form.Maximised);
+  EXPECT_EQ(sim.trace.Take(), Names{});
+}
+
+TEST_F(MonitorsTest, WithoutAnyMonitorTheOutputSettingsHaveAnEmptyList) {
+  sim.monitors.monitors.clear();
+  auto& form = station.forms.Get<frmOutputSett>();
+  EXPECT_EQ(form.cboMonitors.ListCount(), 0);
+  EXPECT_EQ(form.cboMonitors.Text.Get(), "");
+}

@@ -24,6 +24,24 @@ class frmProbe : public Form {
   std::function<void(frmProbe&)> onTick = [](frmProbe&) {};
 };
 
+// A form that lets itself be closed when the test says so, and notes how it comes and goes.
+class frmNoted : public Form {
+ public:
+  explicit frmNoted(Station& station) : Form(station.forms, "frmNoted", Kind::kOperator) { Note("made"); }
+  ~frmNoted() override { Note("gone"); }
+
+  inline static Names notes;
+  inline static bool mayUnload = true;
+  static void Note(const std::string& what) { notes.push_back(what); }
+
+ protected:
+  void Load() override { Note("loaded"); }
+  bool MayUnload() override {
+    Note("asked");
+    return mayUnload;
+  }
+};
+
 }  // namespace
 
 class ToolkitTest : public StationTest {
@@ -39,6 +57,86 @@ TEST_F(ToolkitTest, AReferenceLoadsAFormOnceAndAnUnloadMakesTheNextOneFresh) {
   EXPECT_FALSE(station.forms.Loaded<frmProbe>());
   EXPECT_EQ(frmProbe::alive, 0);
   EXPECT_EQ(Probe().Caption.Get(), "");
+}
+
+TEST_F(ToolkitTest, AFormIsConnectedOnceItIsMadeAndBeforeItsLoad) {
+  frmNoted::notes.clear();
+  station.forms.WhenCreated<frmNoted>(
+      [](frmNoted& form) { frmNoted::Note(form.Window() == nullptr ? "connected without a window" : "connected"); });
+  station.forms.WhenCreated<frmNoted>([](frmNoted&) { frmNoted::Note("connected again"); });
+  station.forms.Get<frmNoted>();
+  EXPECT_EQ(frmNoted::notes, (Names{"made", "connected", "connected again", "loaded"}));
+  station.forms.Unload<frmNoted>();
+  station.forms.Get<frmNoted>();
+  EXPECT_EQ(frmNoted::notes.size(), 10u);  // asked, gone, and the four once more
+}
+
+TEST_F(ToolkitTest, AFormThatRefusesToGoStaysAndOneThatAgreesGoes) {
+  frmNoted& form = station.forms.Get<frmNoted>();
+  frmNoted::notes.clear();
+  frmNoted::mayUnload = false;
+  form.Close();
+  EXPECT_FALSE(station.forms.Unload<frmNoted>());
+  EXPECT_TRUE(station.forms.Loaded<frmNoted>());
+  EXPECT_NE(form.Window(), nullptr);
+  frmNoted::mayUnload = true;
+  form.Close();
+  EXPECT_FALSE(station.forms.Loaded<frmNoted>());
+  EXPECT_EQ(frmNoted::notes, (Names{"asked", "asked", "asked", "gone"}));
+}
+
+TEST_F(ToolkitTest, AFormUnloadedInAnothersHandlerLivesUntilThatHandlerReturns) {
+  frmNoted& other = station.forms.Get<frmNoted>();
+  Probe().onTick = [&](frmProbe& form) {
+    frmNoted::notes.clear();
+    station.forms.Unload<frmNoted>();
+    EXPECT_TRUE(station.forms.Unload(other));  // it is gone already
+    form.Button.Press();                       // a handler inside the handler
+    EXPECT_EQ(frmNoted::notes, Names{"asked"});
+    EXPECT_FALSE(station.forms.Loaded<frmNoted>());
+  };
+  Probe().Tick.Enabled = true;
+  Advance(1s);
+  EXPECT_EQ(frmNoted::notes, (Names{"asked", "gone"}));
+}
+
+TEST_F(ToolkitTest, ShowAndHideSetTheFormsVisibilityAndAShowIsAskedOfAVisibleFormToo) {
+  frmProbe& form = Probe();
+  int asked = 0;
+  form.ShowAsked.Connect([&asked] { ++asked; });
+  EXPECT_FALSE(form.Visible);
+  form.Show();
+  EXPECT_TRUE(form.Visible);
+  form.Show();
+  EXPECT_EQ(asked, 2);
+  form.Hide();
+  EXPECT_FALSE(form.Visible);
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(ToolkitTest, APressOnTheFormIsToldWithItsButton) {
+  std::vector<int> pressed;
+  Probe().MouseDown.Connect([&](const MousePlace& place) { pressed.push_back(place.buttons); });
+  Probe().PressMouse({.buttons = static_cast<int>(MouseButton::kRight)});
+  EXPECT_EQ(pressed, std::vector<int>{static_cast<int>(MouseButton::kRight)});
+}
+
+TEST_F(ToolkitTest, ADisabledTimerTicksNoMoreAndBeginsAnewWhenItIsEnabled) {
+  int ticks = 0;
+  Probe().onTick = [&](frmProbe&) { ++ticks; };
+  Advance(5s);
+  EXPECT_EQ(ticks, 0);
+  Probe().Tick.Enabled = true;
+  Advance(1900ms);
+  EXPECT_EQ(ticks, 1);
+  Probe().Tick.Enabled = false;
+  Advance(5s);
+  EXPECT_EQ(ticks, 1);
+  Probe().Tick.Enabled = true;
+  Advance(999ms);
+  EXPECT_EQ(ticks, 1);
+  Advance(1ms);
+  EXPECT_EQ(ticks, 2);
 }
 
 TEST_F(ToolkitTest, AnUnloadOfAFormThatIsNotLoadedLoadsNothing) {
