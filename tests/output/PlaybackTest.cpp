@@ -70,6 +70,7 @@ TEST_F(PlaybackTest, ASecondEndWithinTheHalfSecondFiresOneTick) {
 }
 
 TEST_F(PlaybackTest, ThePausedMainItemCannotEndDuringABreakAndTheEndOfAnAdIsNotItsEnd) {
+  Set("VideoAd", "AdPlay", "9");  // or the first ad's end would be the break's
   Settle();
   Output().MainPlay(Clip("a.mp4", 3));
   Advance(1s);
