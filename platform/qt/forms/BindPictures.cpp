@@ -1,12 +1,14 @@
 #include "platform/qt/forms/BindPictures.h"
 
 #include <QFrame>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include "platform/qt/forms/Bindings.h"
 #include "platform/qt/forms/Paint.h"
 #include "platform/qt/forms/PictureView.h"
 #include "platform/qt/forms/Texts.h"
+#include "platform/qt/frames/FrameSource.h"
 
 namespace {
 
@@ -30,6 +32,18 @@ void Bind(Joint& joint, PictureBox& control, QFrame& widget, const Surfaces& sur
 }
 
 void Bind(Joint& joint, FlashBox& control, QFrame& widget, const Surfaces& surfaces) {
-  const auto path = [&control] { return Shown(control.File()); };
-  BindPicture(joint, control.Movie.Changed, path, widget, surfaces);
+  control.KeepProportions = true;
+  control.Silent = true;
+  ShowFrames(joint, dynamic_cast<ShowsFrames*>(control.Platform()), widget, surfaces);
+}
+
+void ShowFrames(Joint& joint, ShowsFrames* source, QWidget& widget, const Surfaces& surfaces) {
+  Paint(widget, kBlack);
+  if (source == nullptr || !surfaces.preview) return;
+  QPointer<QWidget> picture = surfaces.preview(source, &widget);
+  picture->setAttribute(Qt::WA_TransparentForMouseEvents);
+  auto* filled = new QVBoxLayout(&widget);
+  filled->setContentsMargins(0, 0, 0, 0);
+  filled->addWidget(picture);
+  joint.AtEnd([picture] { delete picture.data(); });  // what it shows goes with the form
 }

@@ -12,10 +12,12 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "platform/qt/forms/BindPictures.h"
 #include "platform/qt/forms/Bindings.h"
 #include "platform/qt/forms/Paint.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/qt/forms/look/Icons.h"
+#include "platform/qt/frames/FrameSource.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
@@ -150,12 +152,5 @@ void Bind(Joint& joint, ColourPanel& control, QFrame& widget, const Surfaces&) {
 }
 
 void Bind(Joint& joint, PlayerControl& control, QWidget& widget, const Surfaces& surfaces) {
-  Paint(widget, kBlack);
-  if (control.Platform() == nullptr || !surfaces.preview) return;
-  QPointer<QWidget> picture = surfaces.preview(*control.Platform(), &widget);
-  picture->setAttribute(Qt::WA_TransparentForMouseEvents);
-  auto* filled = new QVBoxLayout(&widget);
-  filled->setContentsMargins(0, 0, 0, 0);
-  filled->addWidget(picture);
-  joint.AtEnd([picture] { delete picture.data(); });  // the player goes with the form
+  ShowFrames(joint, dynamic_cast<ShowsFrames*>(control.Platform()), widget, surfaces);
 }

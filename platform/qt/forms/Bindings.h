@@ -8,13 +8,13 @@
 #include "platform/qt/forms/Joint.h"
 
 class Control;
-class MediaPlayer;
 class PictureLoader;
+class ShowsFrames;
 
-// What operator forms need of others: the widget that shows a player's picture, and what decodes pictures. Empty: such
-// places stay black.
+// What operator forms need of others: the widget that shows the picture of a player or a movie, which may be null, and
+// what decodes pictures. Empty: such places stay black.
 struct Surfaces {
-  std::function<QWidget*(MediaPlayer&, QWidget* parent)> preview;
+  std::function<QWidget*(ShowsFrames*, QWidget* parent)> preview;
   PictureLoader* pictures = nullptr;
 };
 

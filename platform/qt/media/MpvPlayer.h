@@ -8,8 +8,8 @@
 #include <string>
 
 #include "platform/Media.h"
-#include "platform/qt/media/FrameSource.h"
 #include "platform/qt/media/MpvInstance.h"
+#include "platform/qt/media/PlayerFrames.h"
 
 // A player on one mpv that lasts as long as the player does, made at the first item. All on the GUI thread: mpv's
 // events are fetched there, every call to mpv is queued, and every answer is given from what the events have told.
@@ -59,7 +59,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void Tell(const mpv_event_property& property);
 
   MediaListener& listener_;
-  FrameSource frames_;
+  PlayerFrames frames_;
   std::atomic<bool> eventsWait_ = false;
   std::unique_ptr<MpvInstance> mpv_;
 

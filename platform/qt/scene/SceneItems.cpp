@@ -1,7 +1,6 @@
 #include "platform/qt/scene/SceneItems.h"
 
-#include "platform/qt/scene/FlashItem.h"
-#include "platform/qt/scene/MediaItem.h"
+#include "platform/qt/scene/FrameItem.h"
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/TextItem.h"
 #include "platform/toolkit/FlashBox.h"

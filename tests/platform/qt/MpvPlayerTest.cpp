@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/qt/media/FrameSource.h"
+#include "platform/qt/frames/FrameSource.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/media/MpvRenderer.h"
 #include "tests/platform/qt/TestMedia.h"

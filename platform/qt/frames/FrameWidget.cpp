@@ -1,27 +1,26 @@
-#include "platform/qt/media/PreviewWidget.h"
+#include "platform/qt/frames/FrameWidget.h"
 
 #include <QPainter>
 #include <QPointer>
 
-#include "platform/Media.h"
-#include "platform/qt/media/FrameSource.h"
+#include "platform/qt/frames/FrameSource.h"
 
 namespace {
 
-class PreviewWidget : public QWidget {
+class FrameWidget : public QWidget {
  public:
-  PreviewWidget(FrameSource* frames, QWidget* parent) : QWidget(parent), frames_(frames) {
+  FrameWidget(FrameSource* frames, QWidget* parent) : QWidget(parent), frames_(frames) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    if (frames_) connect(frames_.data(), &FrameSource::Changed, this, &PreviewWidget::TakeFrame);
+    if (frames_) connect(frames_.data(), &FrameSource::Changed, this, &FrameWidget::TakeFrame);
   }
-  ~PreviewWidget() override {
+  ~FrameWidget() override {
     if (frames_) frames_->SetTarget({});
   }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    if (frame_.size() != size()) painter.fillRect(rect(), Qt::black);
+    if (frame_.size() != size() || frame_.hasAlphaChannel()) painter.fillRect(rect(), Qt::black);
     if (!frame_.isNull()) painter.drawImage(0, 0, frame_);
   }
   void resizeEvent(QResizeEvent*) override { Follow(); }
@@ -43,7 +42,6 @@ class PreviewWidget : public QWidget {
 
 }  // namespace
 
-QWidget* NewPreviewWidget(MediaPlayer& player, QWidget* parent) {
-  auto* shows = dynamic_cast<ShowsFrames*>(&player);
-  return new PreviewWidget(shows != nullptr ? &shows->Frames() : nullptr, parent);
+QWidget* NewFrameWidget(ShowsFrames* source, QWidget* parent) {
+  return new FrameWidget(source != nullptr ? &source->Frames() : nullptr, parent);
 }
