@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QJsonArray>
+#include <QObject>
+#include <QQuickRenderControl>
+#include <QQuickWindow>
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "platform/qt/flash/SharedFrames.h"
+#include "platform/qt/flash/host/Shelves.h"
+
+class QQmlEngine;
+class QQuickItem;
+
+// A web page that nobody sees, in a window that is never shown. It is painted into a picture whenever it changes, 60
+// times a second at most, and each slot on it gets its part of that picture.
+class Page : public QObject {
+ public:
+  struct Listener {
+    std::function<void(const QJsonArray& line)> told;       // by the page, see movies.js
+    std::function<void(const QList<int>& slots)> pictures;  // that have a new picture
+    std::function<void()> died;                             // its renderer process
+  };
+
+  Page(QQmlEngine& engine, Listener listener);
+  ~Page() override;
+
+  // A slot of that size, and where its pictures go; without frames it is not painted for anyone. It begins to give
+  // pictures when the page has laid it out.
+  void Place(int slot, QSize pixels, std::shared_ptr<SharedFrames> frames);
+  void Remove(int slot);
+
+  // Calls a function of the page, see movies.js: now, or when the page is there.
+  void Call(const QString& function, const QJsonArray& arguments);
+  // Begins the page anew, with its slots and without movies; what it showed last stays shown.
+  void Reload();
+  // The page is there since it was begun last: movies play in it.
+  bool IsReady() const { return ready_; }
+
+ private:
+  struct Part {
+    QRect place;
+    std::shared_ptr<SharedFrames> frames;
+    bool laidOut = false;  // its place on the page is its own by now
+    bool up = false;       // a movie is seen there; before that the last picture stays
+    bool fresh = true;     // nothing was painted since
+  };
+
+  void Tell(const QString& line);
+  void LayOut(int slot);
+  void PaintSoon(int slot, bool Part::*now);
+  void Fit();
+  void Ask();
+  void Paint();
+  bool IsAlive() const;
+  bool Changed(const Part& part, const QImage& picture) const;
+
+  Listener listener_;
+  QQuickRenderControl control_;
+  std::unique_ptr<QQuickWindow> window_;
+  QQuickItem* view_ = nullptr;
+  Shelves shelves_;
+  std::map<int, Part> parts_;
+  QStringList calls_;  // that wait for the page
+  bool ready_ = false;
+  QImage picture_;  // the last one
+  QTimer due_;
+  QElapsedTimer sincePainted_;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <map>
+
+// Gives rectangles their places on a page, so that none lies over another and the page stays small. A place once given
+// stays until its rectangle goes or changes its size.
+class Shelves {
+ public:
+  // The place of a rectangle of that size; one of the same number gives up its former place.
+  QRect Put(int number, QSize size);
+  void Remove(int number) { places_.erase(number); }
+  // What holds them all.
+  QSize Extent() const;
+
+ private:
+  QRect FreePlace(QSize size) const;
+
+  std::map<int, QRect> places_;
+};

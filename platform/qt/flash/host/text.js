@@ -1,0 +1,67 @@
+// Texts whose letters the player cannot join are drawn here, with the system's fonts, and put in the place of the field.
+'use strict';
+
+const texts = (() => {
+  // Latin, Greek, Cyrillic and their signs: the player sets these itself.
+  const PLAIN = /^[\u0000-\u024F\u0370-\u052F\u1E00-\u1FFF\u2000-\u206F\u20A0-\u20BF\u2100-\u214F]*$/;
+  const TWIPS = 20;
+  const LARGEST = 8192;
+  let count = 0;
+
+  function colour(looks) {
+    const parts = [24, 16, 8].map(shift => (looks.colour >>> shift) & 255);
+    return `rgba(${parts.join(',')},${(looks.colour & 255) / 255})`;
+  }
+
+  function lines(context, text, looks, width) {
+    if (!looks.multiline) return [text.replace(/[\r\n]+/g, ' ')];
+    const all = [];
+    for (const paragraph of text.split(/\r\n|\r|\n/)) {
+      let line = '';
+      for (const word of paragraph.split(' ')) {
+        const longer = line ? line + ' ' + word : word;
+        if (line && context.measureText(longer).width > width) {
+          all.push(line);
+          line = word;
+        } else {
+          line = longer;
+        }
+      }
+      all.push(line);
+    }
+    return all;
+  }
+
+  return {
+    isPlain: text => PLAIN.test(text),
+
+    // The address under which `fetch` answers with the picture: as large as the field, its left top corner there.
+    async draw(text, looks) {
+      const canvas = document.createElement('canvas');
+      const right = (looks.left + looks.width) / TWIPS;
+      const bottom = (looks.top + looks.height) / TWIPS;
+      canvas.width = Math.min(LARGEST, Math.max(1, Math.ceil(right)));
+      canvas.height = Math.min(LARGEST, Math.max(1, Math.ceil(bottom)));
+      const context = canvas.getContext('2d');
+      const size = looks.fontHeight / TWIPS;
+      context.font = `${size}px sans-serif`;
+      context.fillStyle = colour(looks);
+      context.textBaseline = 'alphabetic';
+      const left = (looks.left + looks.leftMargin) / TWIPS + 2;
+      const room = right - looks.rightMargin / TWIPS - 2 - left;
+      const places = {1: ['right', left + room], 2: ['center', left + room / 2]};
+      const [align, x] = places[looks.align] || ['left', left];
+      context.textAlign = align;
+      let y = looks.top / TWIPS + 2 + size;
+      for (const line of lines(context, text, looks, room)) {
+        context.fillText(line, x, y);
+        y += size * 1.2;
+      }
+      const picture = await new Promise(resolve => canvas.toBlob(resolve, 'image/png'));
+      const address = `${location.origin}/text/${++count}.png`;
+      drawn.set(address, await picture.arrayBuffer());
+      return address;
+    },
+    forget: address => drawn.delete(address),
+  };
+})();
