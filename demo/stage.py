@@ -133,9 +133,10 @@ def main():
     write_ini(station / "Window.ini", WINDOWS)
     write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))
     # A running program's file cannot be written over, but it can be replaced.
-    renewed = station / "corvanta.new"
-    shutil.copy2(program, renewed)
-    renewed.replace(station / "corvanta")
+    for name in ("corvanta", "corvanta-movies"):
+        renewed = station / f"{name}.new"
+        shutil.copy2(program.with_name(name), renewed)
+        renewed.replace(station / name)
 
 
 if __name__ == "__main__":

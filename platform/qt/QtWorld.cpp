@@ -21,8 +21,8 @@
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/forms/QtWindows.h"
 #include "platform/qt/forms/look/Look.h"
+#include "platform/qt/frames/FrameWidget.h"
 #include "platform/qt/media/MpvEngine.h"
-#include "platform/qt/media/PreviewWidget.h"
 #include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/scene/Scene.h"
@@ -37,8 +37,7 @@ constexpr std::chrono::milliseconds kPatience(10'000);
 struct QtWorld::Parts {
   Parts()
       : application(wordCount, words),
-        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); },
-                {NewPreviewWidget, &loader}) {
+        windows([this](Form& form) { return std::make_unique<OnAirWindow>(form, scene); }, {NewFrameWidget, &loader}) {
     application.setApplicationName("corvanta");
     application.setQuitOnLastWindowClosed(false);
     WearLook(application);
@@ -54,9 +53,9 @@ struct QtWorld::Parts {
   QtScheduler scheduler;
   PosixFiles files;
   MpvEngine media;
-  QtFlash flash;
   QtPictures pictures;
   PictureLoader loader;
+  QtFlash flash{loader, folder + "/corvanta-movies"};
   Scene scene{scheduler, loader};
   QtWindows windows;
   QtDialogs dialogs;

@@ -1,25 +1,77 @@
 #include "platform/qt/flash/QtFlash.h"
 
-#include "platform/qt/flash/MovieHeader.h"
+#include "platform/qt/flash/QtSurface.h"
+#include "platform/qt/flash/Wire.h"
 
-namespace {
+QtFlash::QtFlash(PictureLoader& pictures, std::string program)
+    : pictures_(pictures),
+      program_(
+          std::move(program), [this](const QCborArray& message) { Hear(message); }, [this] { ProgramBegun(); }) {}
 
-class QtSurface : public FlashSurface {
- public:
-  void Put(const std::string& path) override {
-    const auto header = ReadMovieHeader(path);
-    totalFrames_ = header ? header->frameCount : 0;
+QtFlash::~QtFlash() = default;
+
+std::unique_ptr<FlashSurface> QtFlash::NewSurface(const std::string& name, FlashListener& listener) {
+  auto surface = std::make_unique<QtSurface>(*this, listener);
+  surface->setObjectName(QString::fromStdString(name));
+  return surface;
+}
+
+int QtFlash::Add(QtSurface& surface) {
+  surfaces_[++lastSlot_] = &surface;
+  return lastSlot_;
+}
+
+void QtFlash::Remove(int slot) {
+  surfaces_.erase(slot);
+  program_.Send({wire::kEnd, slot});
+}
+
+QtSurface* QtFlash::Find(int slot) const {
+  const auto found = surfaces_.find(slot);
+  return found == surfaces_.end() ? nullptr : found->second;
+}
+
+void QtFlash::BeginSoon() {
+  if (std::exchange(beginning_, true)) return;
+  QMetaObject::invokeMethod(this, &QtFlash::Begin, Qt::QueuedConnection);
+}
+
+// What is seen leads; what nobody sees goes along with it.
+void QtFlash::Begin() {
+  beginning_ = false;
+  for (const auto& [slot, surface] : surfaces_) surface->LeaveALeaderThatGoesElsewhere();
+  for (const auto& [slot, surface] : surfaces_) {
+    QtSurface* leader = surface->Waits() ? LeaderFor(*surface) : nullptr;
+    if (leader != nullptr) surface->Follow(*leader);
   }
-  int TotalFrames() const override { return totalFrames_; }
-  void SetVariable(const std::string&, const std::string&) override {}
-  void SetLooks(const FlashLooks&) override {}
+  for (const auto& [slot, surface] : surfaces_) surface->Begin();
+}
 
- private:
-  int totalFrames_ = 0;
-};
+QtSurface* QtFlash::LeaderFor(const QtSurface& surface) const {
+  for (const auto& [slot, other] : surfaces_) {
+    if (other != &surface && other->MayLead(surface)) return other;
+  }
+  return nullptr;
+}
 
-}  // namespace
+void QtFlash::ProgramBegun() {
+  for (const auto& [slot, surface] : surfaces_) surface->TellAll();
+}
 
-std::unique_ptr<FlashSurface> QtFlash::NewSurface(const std::string&, FlashListener&) {
-  return std::make_unique<QtSurface>();
+void QtFlash::Hear(const QCborArray& message) {
+  const QString about = message[0].toString();
+  if (about == wire::kFrames) {
+    for (qsizetype i = 1; i + 2 < message.size(); i += 3) {
+      QtSurface* surface = Find(static_cast<int>(message[i].toInteger()));
+      if (surface != nullptr) surface->Shown(message[i + 1].toInteger(), static_cast<int>(message[i + 2].toInteger()));
+    }
+  } else if (about == wire::kPictures) {
+    for (qsizetype i = 1; i < message.size(); ++i) {
+      QtSurface* surface = Find(static_cast<int>(message[i].toInteger()));
+      if (surface != nullptr) surface->PictureWaits();
+    }
+  } else if (about == wire::kUp || about == wire::kBad) {
+    QtSurface* surface = Find(static_cast<int>(message[1].toInteger()));
+    if (surface != nullptr) surface->Settled(message[2].toInteger());
+  }
 }

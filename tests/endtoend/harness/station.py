@@ -9,6 +9,7 @@ from . import ini, media
 from .patience import until
 
 PROGRAM = media.ROOT / "build" / "release" / "app" / "corvanta"
+MOVIES = PROGRAM.with_name("corvanta-movies")
 TWIPS = 15
 
 
@@ -27,6 +28,7 @@ class Station:
         self.folder.mkdir(parents=True)
         # The program finds its folder by its own file, so a link would lead it astray.
         shutil.copy2(PROGRAM, self.program)
+        shutil.copy2(MOVIES, self.folder)
         self._sections = {
             "Settings": {"ShowMouse": "1", "ShowTaskbar": "1", "StartUp": "0", "Ext": "*.mp4;*.png;*.wav"},
             "Output": {"Show": "True"},

@@ -84,7 +84,7 @@ class OnAirWindowTest : public testing::Test, public Windows {
   Scene scene{scheduler, loader};
   PosixFiles files;
   MpvEngine media;
-  QtFlash flash;
+  QtFlash flash{loader, MOVIE_PROGRAM};
   QtPictures pictures;
   QPointer<QQuickWindow> window;
   World world{clock, scheduler,   files,       media,        flash,      pictures,

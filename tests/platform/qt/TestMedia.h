@@ -24,6 +24,6 @@ std::string FirstPart(const std::string& name, const std::string& of, double sha
 
 // Runs the event loop until `condition` holds; false when it does not within `patience`, which is far longer than it
 // takes on any machine.
-bool Until(const std::function<bool()>& condition, std::chrono::milliseconds patience = std::chrono::seconds(20));
+bool Until(const std::function<bool()>& condition, std::chrono::milliseconds patience = std::chrono::seconds(60));
 // Runs the event loop for that long.
 void Pass(std::chrono::milliseconds time);

@@ -13,6 +13,7 @@
 #include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/media/MpvEngine.h"
+#include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
 #include "tests/platform/qt/TestMedia.h"
 #include "tests/platform/swf/MovieWriter.h"
@@ -73,7 +74,8 @@ class RealWorld {
   QtScheduler scheduler_;
   PosixFiles files_;
   MpvEngine media_;
-  QtFlash flash_;
+  PictureLoader loader_;
+  QtFlash flash_{loader_, MOVIE_PROGRAM};
   QtPictures pictures_;
   SimWorld rest_;
 

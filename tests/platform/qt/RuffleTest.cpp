@@ -1,0 +1,321 @@
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "platform/qt/flash/QtFlash.h"
+#include "platform/qt/frames/FrameSource.h"
+#include "platform/swf/Actions.h"
+#include "platform/swf/Bytes.h"
+#include "tests/platform/qt/Worlds.h"
+
+// What the real player does with real movies.
+
+namespace {
+
+using namespace std::chrono_literals;
+using namespace test_movies;
+
+std::string Background(unsigned red, unsigned green, unsigned blue) {
+  return swf::WriteTag(swf::kSetBackgroundColor, swf::ByteWriter().U8(red).U8(green).U8(blue).Bytes());
+}
+
+// An action that never ends: a jump to itself.
+std::string Endless() { return swf::DoActionTag(std::string("\x99\x02\0\xFB\xFF", 5)); }
+
+std::string Stop() { return swf::DoActionTag("\x07"); }
+
+std::string Shows(int count) {
+  std::string tags;
+  for (int i = 0; i < count; ++i) tags += Show();
+  return tags;
+}
+
+std::string FileOf(pid_t pid, const char* name) {
+  std::ifstream file("/proc/" + std::to_string(pid) + "/" + name);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+pid_t ParentOf(pid_t pid) {
+  const std::string text = FileOf(pid, "stat");
+  const std::size_t end = text.rfind(')');
+  return end == std::string::npos ? 0 : std::stoi(text.substr(end + 4));
+}
+
+bool IsBelowThis(pid_t pid) {
+  while (pid > 1 && pid != getpid()) pid = ParentOf(pid);
+  return pid == getpid();
+}
+
+// Processes below this one whose command line has the word.
+std::vector<pid_t> ProcessesWith(const std::string& word) {
+  std::vector<pid_t> found;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+    const std::string name = entry.path().filename();
+    if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+    const pid_t pid = std::stoi(name);
+    if (FileOf(pid, "cmdline").find(word) != std::string::npos && IsBelowThis(pid)) found.push_back(pid);
+  }
+  return found;
+}
+
+constexpr char kBrowser[] = "QtWebEngineProcess";
+
+// A renderer is made by one of the browser's own processes.
+void KillTheRenderer() {
+  int killed = 0;
+  for (const pid_t pid : ProcessesWith(kBrowser)) {
+    if (FileOf(ParentOf(pid), "cmdline").find(kBrowser) != std::string::npos) killed += kill(pid, SIGKILL) == 0 ? 1 : 0;
+  }
+  ASSERT_GT(killed, 0);
+}
+
+class Seen : public FlashListener {
+ public:
+  Seen(FlashEngine& flash, QSize size)
+      : surface(flash.NewSurface("seen", *this)), source(dynamic_cast<ShowsFrames&>(*surface).Frames()) {
+    source.SetTarget(size);
+    QObject::connect(&source, &FrameSource::Changed, &source, [this] {
+      if (const auto taken = source.Take()) {
+        picture = taken->copy();
+        ++pictures;
+        if (everBlank && !picture.isNull() && qAlpha(picture.pixel(picture.width() / 2, picture.height() / 2)) < 250)
+          ++blanks;
+      }
+    });
+  }
+  void FrameShown(int frame) override { frames.push_back(frame); }
+  bool Shows(QColor colour) {
+    return ::Until(
+        [&] { return !picture.isNull() && picture.pixelColor(picture.width() / 2, picture.height() / 2) == colour; });
+  }
+  // Pixels that differ from the middle of the left edge.
+  int Marks() const {
+    int marks = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x)
+        marks += picture.pixel(x, y) != picture.pixel(0, picture.height() / 2) ? 1 : 0;
+    }
+    return marks;
+  }
+
+  std::unique_ptr<FlashSurface> surface;
+  FrameSource& source;
+  QImage picture;
+  int pictures = 0;
+  bool everBlank = false;
+  int blanks = 0;
+  std::vector<int> frames;
+};
+
+class RuffleTest : public testing::Test {
+ protected:
+  std::string File(const std::string& name, const std::string& tags, const Shape& shape = {}) {
+    return test_media::Text(name, Plain(tags + End(), shape));
+  }
+  std::unique_ptr<Seen> Opaque(QSize size = {200, 100}) {
+    auto seen = std::make_unique<Seen>(world.world.flash, size);
+    seen->surface->SetLooks({FlashLooks::Back::kOpaque, FlashLooks::Fit::kFill, true});
+    return seen;
+  }
+
+  RealWorld world;
+};
+
+TEST_F(RuffleTest, NoBrowserRunsBeforeTheFirstMovieAndNoneAfterTheLastSurface) {
+  const std::string movie = File("first.swf", Shows(3));
+  {
+    RealWorld own;
+    Seen seen(own.world.flash, {50, 50});
+    seen.surface->Put(test_media::Picture("still.png", Qt::green, {10, 10}));
+    EXPECT_TRUE(seen.Shows(Qt::green));
+    EXPECT_TRUE(ProcessesWith(kBrowser).empty());
+    seen.surface->Put(movie);
+    ASSERT_TRUE(Until([&] { return seen.frames.size() > 3; }));
+    EXPECT_FALSE(ProcessesWith(kBrowser).empty());
+  }
+  EXPECT_TRUE(Until([] { return ProcessesWith(kBrowser).empty(); }));
+}
+
+TEST_F(RuffleTest, AMovieIsSeenInItsOwnBackgroundOrWithNothingBehind) {
+  const auto opaque = Opaque();
+  opaque->surface->Put(File("red.swf", Background(255, 0, 0) + Shows(2)));
+  EXPECT_TRUE(opaque->Shows(QColor(255, 0, 0)));
+  Seen seeThrough(world.world.flash, {60, 60});
+  seeThrough.surface->Put(File("red.swf", Background(255, 0, 0) + Shows(2)));
+  ASSERT_TRUE(Until([&] { return !seeThrough.frames.empty() && seeThrough.pictures > 0; }));
+  EXPECT_EQ(seeThrough.picture.pixelColor(30, 30).alpha(), 0);
+}
+
+TEST_F(RuffleTest, OneMovieFollowsTheOtherWithoutABlankMoment) {
+  const auto seen = Opaque();
+  const std::string red = File("a.swf", Background(255, 0, 0) + Shows(9));
+  const std::string blue = File("b.swf", Background(0, 0, 255) + Shows(9));
+  seen->surface->Put(red);
+  ASSERT_TRUE(seen->Shows(QColor(255, 0, 0)));
+  seen->everBlank = true;
+  for (int i = 0; i < 6; ++i) {
+    seen->surface->Put(i % 2 == 0 ? blue : red);
+    ASSERT_TRUE(seen->Shows(i % 2 == 0 ? QColor(0, 0, 255) : QColor(255, 0, 0)));
+  }
+  EXPECT_EQ(seen->blanks, 0);
+}
+
+TEST_F(RuffleTest, TheOldMovieStaysUntilTheNewOneIsThere) {
+  const auto seen = Opaque();
+  seen->surface->Put(File("a.swf", Background(255, 0, 0) + Shows(9)));
+  ASSERT_TRUE(seen->Shows(QColor(255, 0, 0)));
+  seen->surface->Put(test_media::Text("damaged.swf", "CWS, but no movie follows"));
+  Pass(500ms);
+  EXPECT_TRUE(seen->Shows(QColor(255, 0, 0)));
+  seen->surface->Put("");
+  EXPECT_TRUE(Until([&] { return seen->picture.isNull() || seen->picture.pixelColor(100, 50).alpha() == 0; }));
+}
+
+TEST_F(RuffleTest, AVariableReachesTheTextOfAMovieOfEveryVersion) {
+  for (const int version : {4, 5, 6, 7, 8, 9, 10}) {
+    SCOPED_TRACE(version);
+    const auto seen = Opaque({300, 120});
+    const std::string field = Background(0, 0, 64) + TextField(5, "text1") + Place(5, 1);
+    seen->surface->Put(File("text" + std::to_string(version) + ".swf", field + Shows(2),
+                            {.version = version, .width = 100, .height = 40}));
+    seen->surface->SetVariable("_levelO.text1", "Hello Orlin");
+    EXPECT_TRUE(Until([&] { return seen->Marks() > 100; })) << "set before the movie is up";
+    seen->surface->SetVariable("_levelO.text1", "");
+    EXPECT_TRUE(Until([&] { return seen->Marks() == 0; })) << "an empty text";
+    seen->surface->SetVariable("text1", "Straße");
+    EXPECT_TRUE(Until([&] { return seen->Marks() > 100; })) << "set later";
+  }
+}
+
+TEST_F(RuffleTest, TextsThatThePlayerCannotJoinAreDrawnInTheFieldsPlace) {
+  const auto seen = Opaque({300, 120});
+  const std::string field = Background(0, 0, 64) + TextField(5, "text1") + Place(5, 1);
+  seen->surface->Put(File("scripts.swf", field + Shows(4), {.width = 100, .height = 40}));
+  for (const char* text : {"বাংলা", "سلام"}) {
+    seen->surface->SetVariable("text1", text);
+    EXPECT_TRUE(Until([&] { return seen->Marks() > 100; })) << text;
+    seen->surface->SetVariable("text1", "");
+    EXPECT_TRUE(Until([&] { return seen->Marks() == 0; })) << text;
+  }
+}
+
+TEST_F(RuffleTest, AMovieThatStopsTellsNoMoreFrames) {
+  Seen seen(world.world.flash, {60, 60});
+  seen.surface->Put(File("stops.swf", Show() + Show() + Stop() + Shows(5)));
+  ASSERT_TRUE(Until([&] { return seen.frames.size() == 3; }));
+  Pass(1s);
+  EXPECT_EQ(seen.frames, (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(RuffleTest, AMovieOfActionScript3TellsItsFrames) {
+  Seen seen(world.world.flash, {60, 60});
+  seen.surface->Put(File("script3.swf", Script3Attributes() + Shows(4), {.version = 10, .frameCount = 4}));
+  ASSERT_TRUE(Until([&] { return seen.frames.size() >= 9; }));
+  for (std::size_t i = 0; i < 9; ++i) EXPECT_EQ(seen.frames[i], static_cast<int>(i % 4) + 1);
+}
+
+TEST_F(RuffleTest, PackedMoviesPlay) {
+  for (const auto& [name, pack] : {std::pair("zlib.swf", &WithZlib), std::pair("lzma.swf", &WithLzma)}) {
+    Seen seen(world.world.flash, {60, 60});
+    seen.surface->Put(test_media::Text(name, pack(Plain(Shows(4) + End(), {.version = 13, .frameCount = 4}))));
+    EXPECT_TRUE(Until([&] { return seen.frames.size() >= 9; })) << name;
+  }
+}
+
+TEST_F(RuffleTest, AnEndlessScriptIsCutOffAndAllOtherMoviesGoOn) {
+  Seen other(world.world.flash, {60, 60});
+  other.surface->Put(File("other.swf", Shows(1000), {.frameCount = 1000}));
+  ASSERT_TRUE(Until([&] { return !other.frames.empty(); }));
+  Seen endless(world.world.flash, {60, 60});
+  endless.surface->Put(File("endless.swf", Shows(4) + Endless() + Shows(4), {.frameCount = 8}));
+  ASSERT_TRUE(Until([&] { return endless.frames.size() >= 5; }));
+  const std::size_t before = other.frames.size();
+  EXPECT_TRUE(Until([&] { return other.frames.size() > before + 50; }));
+  // Its scripts are off now, and it goes on: counted by the clock.
+  EXPECT_TRUE(Until([&] { return endless.frames.size() >= 12; }));
+}
+
+TEST_F(RuffleTest, AllMoviesAreBackWhenTheRendererIsKilled) {
+  const auto seen = Opaque();
+  seen->surface->Put(File("back.swf", Background(0, 255, 0) + Shows(200), {.frameCount = 200}));
+  ASSERT_TRUE(seen->Shows(QColor(0, 255, 0)));
+  Pass(3500ms);
+  KillTheRenderer();
+  seen->frames.clear();
+  ASSERT_TRUE(Until([&] { return std::ranges::find(seen->frames, 1) != seen->frames.end(); }));
+  EXPECT_EQ(seen->picture.pixelColor(100, 50), QColor(0, 255, 0)) << "the last picture stays meanwhile";
+}
+
+TEST_F(RuffleTest, TheProgramThatPlaysMoviesComesBackWhenItIsKilled) {
+  const auto seen = Opaque();
+  seen->surface->Put(File("whole.swf", Background(0, 255, 0) + Shows(200), {.frameCount = 200}));
+  ASSERT_TRUE(seen->Shows(QColor(0, 255, 0)));
+  for (const pid_t program : ProcessesWith("corvanta-movies")) kill(program, SIGKILL);
+  seen->frames.clear();
+  ASSERT_TRUE(Until([&] { return std::ranges::find(seen->frames, 1) != seen->frames.end(); }));
+}
+
+TEST_F(RuffleTest, AMovieThatBringsTheRendererDownTwiceStaysOutAndTheOthersPlay) {
+  Seen good(world.world.flash, {60, 60});
+  good.surface->Put(File("good.swf", Shows(500), {.frameCount = 500}));
+  ASSERT_TRUE(Until([&] { return !good.frames.empty(); }));
+  Seen bad(world.world.flash, {60, 60});
+  bad.surface->Put(File("bad.swf", Shows(500), {.frameCount = 500}));
+  for (int i = 0; i < 2; ++i) {
+    ASSERT_TRUE(Until([&] { return !bad.frames.empty(); }));
+    KillTheRenderer();
+    Pass(100ms);
+    bad.frames.clear();
+    good.frames.clear();
+    ASSERT_TRUE(Until([&] { return good.frames.size() > 3; }));
+  }
+  Pass(3s);
+  EXPECT_TRUE(bad.frames.empty());
+  bad.surface->Put(test_media::PathOf("bad.swf"));
+  EXPECT_TRUE(Until([&] { return bad.frames.size() > 3; })) << "until it is put again";
+}
+
+TEST_F(RuffleTest, HundredsOfChangesArePlayedAndTheLastPictureNeverGoes) {
+  const auto seen = Opaque();
+  const std::string red = File("a.swf", Background(255, 0, 0) + Shows(3));
+  seen->surface->Put(red);
+  ASSERT_TRUE(seen->Shows(QColor(255, 0, 0)));
+  seen->everBlank = true;
+  for (int i = 0; i < 320; ++i) {
+    seen->surface->Put(red);
+    seen->frames.clear();
+    ASSERT_TRUE(Until([&] { return !seen->frames.empty(); })) << i;
+  }
+  EXPECT_EQ(seen->blanks, 0);
+}
+
+TEST_F(RuffleTest, WhatNobodySeesGoesOnCounting) {
+  Seen unseen(world.world.flash, {});
+  unseen.surface->Put(File("unseen.swf", Shows(10), {.frameCount = 10}));
+  ASSERT_TRUE(Until([&] { return unseen.frames.size() >= 25; }));
+  for (std::size_t i = 0; i < unseen.frames.size(); ++i) EXPECT_EQ(unseen.frames[i], static_cast<int>(i % 10) + 1);
+  EXPECT_EQ(unseen.pictures, 0);
+}
+
+TEST_F(RuffleTest, MoviesAtTheLimitsOfTheFormatHarmNobody) {
+  Seen good(world.world.flash, {60, 60});
+  good.surface->Put(File("good.swf", Shows(500), {.frameCount = 500}));
+  ASSERT_TRUE(Until([&] { return !good.frames.empty(); }));
+  const std::string bomb = WithZlib(Plain(swf::WriteTag(999, std::string(200 << 20, '\0')) + Shows(2)));
+  const std::string cut = Plain(Shows(20)).substr(0, 40);
+  std::string harmed = WithZlib(Plain(swf::WriteTag(999, std::string(5000, 'x')) + Shows(9)));
+  harmed[harmed.size() / 2] ^= 0x55;
+  int number = 0;
+  for (const std::string& bytes :
+       {std::string(), cut, harmed, bomb, Plain(Shows(2), {.version = 0}), Plain(Shows(2), {.version = 255}),
+        Plain(Shows(2), {.frameCount = 0}), Plain(Shows(2), {.frameCount = 65535})}) {
+    Seen odd(world.world.flash, {60, 60});
+    odd.surface->Put(test_media::Text("odd" + std::to_string(++number) + ".swf", bytes));
+    Pass(300ms);
+  }
+  good.frames.clear();
+  EXPECT_TRUE(Until([&] { return good.frames.size() > 10; }));
+}
+
+}  // namespace
