@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/CopyBox.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QEventLoop>
@@ -19,6 +20,34 @@ namespace {
 
 constexpr std::chrono::milliseconds kBoxAfter{500}, kBetweenLooks{100};
 constexpr int kSteps = 1000;
+
+// While it stands, the operator's acts are lost as they would be behind a box, but for those on a box that a tick has
+// opened.
+class NoActs : public QObject {
+ public:
+  NoActs() { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (QApplication::activeModalWidget() != nullptr) return false;
+    switch (event->type()) {
+      case QEvent::Close:
+        event->ignore();
+        return true;
+      case QEvent::ContextMenu:
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::Shortcut:
+      case QEvent::ShortcutOverride:
+      case QEvent::Wheel:
+        return true;
+      default:
+        return false;
+    }
+  }
+};
 
 class CopyBox : public QDialog {
  public:
@@ -72,7 +101,10 @@ CopyResult CopyBehindBox(const std::string& from, const std::string& to) {
   QObject::connect(thread.get(), &QThread::finished, &shortly, &QEventLoop::quit);
   QTimer::singleShot(kBoxAfter, &shortly, &QEventLoop::quit);
   thread->start();
-  shortly.exec(QEventLoop::ExcludeUserInputEvents);
+  {
+    const NoActs undisturbed;
+    shortly.exec();
+  }
   if (!thread->isFinished()) {
     CopyBox box(copy, QFileInfo(QString::fromStdString(from)).fileName());
     QObject::connect(thread.get(), &QThread::finished, &box, &QDialog::accept);

@@ -1,37 +1,67 @@
 #include "platform/qt/desktop/GuideWindow.h"
 
-#include <QImage>
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QThreadPool>
+
+#include "platform/qt/desktop/WindowClass.h"
 
 namespace {
 
-constexpr char kGuide[] = "qrc:/guide/operator-guide.md";
-constexpr QSize kSize(860, 700);
+constexpr char kGuide[] = ":/guide/operator-guide.md";
+constexpr char kPictures[] = ":/guide/pictures";
+constexpr QSize kSize(900, 720);
+constexpr int kPictureWidth = 820;  // fits beside the scroll bar
 
-// The guide's pictures are as large as the windows they show: here they take the width there is.
-class Pages : public QTextBrowser {
- protected:
-  QVariant loadResource(int type, const QUrl& name) override {
-    const QVariant loaded = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::ImageResource) return loaded;
-    const auto picture = QImage::fromData(loaded.toByteArray());
-    const int width = kSize.width() - 4 * static_cast<int>(document()->documentMargin()) - 40;
-    return picture.width() > width ? picture.scaledToWidth(width, Qt::SmoothTransformation) : picture;
+// By the names that the guide calls them.
+QMap<QString, QImage> DecodePictures() {
+  QMap<QString, QImage> pictures;
+  for (QDirIterator files(kPictures); files.hasNext();) {
+    QImage picture(files.next());
+    if (picture.width() > kPictureWidth) picture = picture.scaledToWidth(kPictureWidth, Qt::SmoothTransformation);
+    pictures.insert("pictures/" + files.fileName(), picture);
   }
-};
+  return pictures;
+}
 
 }  // namespace
 
 GuideWindow::~GuideWindow() { delete window_; }
 
 void GuideWindow::Show() {
-  if (!window_) {
-    window_ = new Pages;
-    window_->setAttribute(Qt::WA_DeleteOnClose);
-    window_->setWindowTitle("Help");
-    window_->resize(kSize);
-    window_->setSource(QUrl(kGuide), QTextDocument::MarkdownResource);
+  if (window_) {
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+  } else if (!loading_) {
+    loading_ = true;
+    QThreadPool::globalInstance()->start([self = QPointer(this)] {
+      const QMap<QString, QImage> pictures = DecodePictures();
+      QMetaObject::invokeMethod(QCoreApplication::instance(), [self, pictures] {
+        if (self) self->Open(pictures);
+      });
+    });
   }
-  window_->show();
-  window_->raise();
-  window_->activateWindow();
+}
+
+void GuideWindow::Open(const QMap<QString, QImage>& pictures) {
+  loading_ = false;
+  QFile guide(kGuide);
+  if (!guide.open(QFile::ReadOnly)) return;
+  window_ = new QTextBrowser;
+  window_->setAttribute(Qt::WA_DeleteOnClose);
+  window_->setWindowTitle("Help");
+  window_->resize(kSize);
+  auto* text = new QTextDocument(window_);
+  text->setMarkdown(QString::fromUtf8(guide.readAll()));
+  // After the text, which takes all that stood in the document along.
+  for (auto picture = pictures.begin(); picture != pictures.end(); ++picture) {
+    text->addResource(QTextDocument::ImageResource, QUrl(picture.key()), picture.value());
+  }
+  window_->setDocument(text);
+  window_->setOpenLinks(false);
+  window_->winId();  // makes the window that gets the name
+  SetWindowClass(*window_->windowHandle(), "guide");
+  Show();
 }

@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/ScreenAwake.h"
 
+#include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -8,8 +9,6 @@
 #include <QPointer>
 #include <QThreadPool>
 #include <chrono>
-
-#include "platform/qt/desktop/Xlib.h"
 
 namespace {
 
@@ -29,14 +28,14 @@ QDBusMessage Call(const char* method) { return QDBusMessage::createMethodCall(kS
 
 }  // namespace
 
-ScreenAwake::ScreenAwake() {
-  connect(&again_, &QTimer::timeout, this, [this] { HoldServer(); });
+ScreenAwake::ScreenAwake(std::unique_ptr<ScreenPower> power) : power_(std::move(power)) {
+  connect(&again_, &QTimer::timeout, this, &ScreenAwake::Renew);
 }
 
 void ScreenAwake::Keep() {
   if (wanted_) return;
   wanted_ = true;
-  HoldServer();
+  Renew();
   again_.start(kAgain);
   if (bus_) {
     AskService();
@@ -50,11 +49,7 @@ void ScreenAwake::Release() {
   if (!wanted_) return;
   wanted_ = false;
   again_.stop();
-  if (Display* display = XDisplay()) {
-    const XErrorTrap trap(display);
-    XSetScreenSaver(display, -1, -1, DefaultBlanking, DefaultExposures);
-    DPMSEnable(display);
-  }
+  power_->Release();
   if (bus_ && cookie_ != 0) bus_->asyncCall(Call("UnInhibit") << cookie_);
   cookie_ = 0;
 }
@@ -88,31 +83,12 @@ void ScreenAwake::AskService() {
 
 void ScreenAwake::Darken() {
   QTimer::singleShot(kHandsOff, this, [this] {
-    Display* display = XDisplay();
-    int event = 0, error = 0;
-    if (display == nullptr || !DPMSQueryExtension(display, &event, &error)) return;
-    const XErrorTrap trap(display);
-    DPMSEnable(display);
-    DPMSForceLevel(display, DPMSModeOff);
-    dark_ = true;
+    power_->Darken();
+    darkened_ = true;
   });
 }
 
-// The server itself lights the screens when a key or the mouse is touched.
-bool ScreenAwake::StillDark() const {
-  CARD16 level = DPMSModeOn;
-  unsigned char enabled = 0;
-  return dark_ && DPMSInfo(XDisplay(), &level, &enabled) != 0 && enabled != 0 && level != DPMSModeOn;
-}
-
-void ScreenAwake::HoldServer() {
-  Display* display = XDisplay();
-  if (display == nullptr) return;
-  dark_ = StillDark();
-  if (dark_) return;
-  const XErrorTrap trap(display);
-  int event = 0, error = 0;
-  XSetScreenSaver(display, 0, 0, DontPreferBlanking, DontAllowExposures);
-  XResetScreenSaver(display);
-  if (DPMSQueryExtension(display, &event, &error)) DPMSDisable(display);
+void ScreenAwake::Renew() {
+  darkened_ = darkened_ && power_->Dark();
+  if (!darkened_) power_->Hold();
 }
