@@ -95,7 +95,7 @@ void FindPresentItem(QComboBox& widget) {
 
 void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   widget.setInsertPolicy(QComboBox::NoInsert);
-  widget.setCompleter(nullptr);  // the text stays as it was typed
+  if (widget.isEditable()) widget.setCompleter(nullptr);  // the text stays as it was typed
   IgnoreWheelWithoutFocus(joint, widget);
   if (control.Text.Get().empty()) control.Text = Stored(widget.currentText());
   const auto show = [&] {
