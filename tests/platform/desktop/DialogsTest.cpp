@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -10,6 +11,7 @@
 #include <functional>
 
 #include "platform/qt/desktop/QtDialogs.h"
+#include "tests/platform/TemporaryFolder.h"
 
 namespace {
 
@@ -111,6 +113,39 @@ TEST_F(DialogsTest, AFolderIsChosenOrNone) {
   EXPECT_EQ(dialogs.BrowseFolder("Select A Video or Audio Directory", "/usr/share"), "/usr/share");
   Then([](QDialog& box) { box.reject(); });
   EXPECT_EQ(dialogs.BrowseFolder("Select A Video or Audio Directory", "/no/such/folder"), "");
+}
+
+// The names that a file dialog offers.
+QStringList Offered(QDialog& box) {
+  QStringList names;
+  const auto* list = box.findChild<QListView*>("listView");
+  const QAbstractItemModel& model = *list->model();
+  for (int row = 0; row < model.rowCount(list->rootIndex()); ++row) {
+    names.append(model.index(row, 0, list->rootIndex()).data().toString());
+  }
+  return names;
+}
+
+TEST_F(DialogsTest, AFileDialogOffersWhatFitsTheFilterInEitherCaseAndStartsWhereItWasLast) {
+  const TemporaryFolder folder;
+  for (const char* name : {"a.jpg", "B.JPG", "c.SwF", "d.txt"}) WriteByOther(folder.Path() + "/" + name, "x");
+  Then([&](QDialog& box) {
+    box.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(folder.Path() + "/B.JPG"));
+    QMetaObject::invokeMethod(&box, "accept");
+  });
+  EXPECT_EQ(dialogs.OpenFile("Load Ad's scorl file", "JPG file only|*.jpg;"), folder.Path() + "/B.JPG");
+  Then([&](QDialog& box) {
+    EXPECT_EQ(box.windowTitle(), "Load Ad's header file");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Offered(box).contains("a.jpg"); }));
+    EXPECT_EQ(Offered(box), (QStringList{"a.jpg", "B.JPG", "c.SwF"}));
+    box.reject();
+  });
+  EXPECT_EQ(dialogs.OpenFile("Load Ad's header file", "JPG or Flash file|*.jpg;*.swf;"), "");
+  Then([&](QDialog& box) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Offered(box).contains("d.txt"); }));
+    box.reject();
+  });
+  EXPECT_EQ(dialogs.OpenFile("All", "Video Ad file|"), "");
 }
 
 }  // namespace

@@ -27,6 +27,47 @@ class SaverService : public QObject {
 
 namespace {
 
+// Screens that the test darkens and lights.
+struct FakeScreens {
+  int held = 0;
+  bool dark = false;
+};
+
+class FakePower : public ScreenPower {
+ public:
+  explicit FakePower(FakeScreens& screens) : screens_(screens) {}
+  void Hold() override {
+    ++screens_.held;
+    screens_.dark = false;
+  }
+  void Release() override {}
+  void Darken() override { screens_.dark = true; }
+  bool Dark() const override { return screens_.dark; }
+
+ private:
+  FakeScreens& screens_;
+};
+
+TEST(DarkScreensTest, ScreensThatWereDarkenedStayDarkUntilSomethingIsTouchedAndAreKeptLitAfterwards) {
+  FakeScreens screens;
+  ScreenAwake awake(std::make_unique<FakePower>(screens));
+  awake.Keep();
+  EXPECT_EQ(screens.held, 1);
+  awake.Darken();
+  EXPECT_FALSE(screens.dark) << "the hand that chose it lets go of the mouse first";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screens.dark; }));
+  awake.Renew();
+  awake.Renew();
+  EXPECT_TRUE(screens.dark);
+  EXPECT_EQ(screens.held, 1);
+  screens.dark = false;  // a key
+  awake.Renew();
+  EXPECT_EQ(screens.held, 2);
+  screens.dark = true;  // not by us: the desktop's own times
+  awake.Renew();
+  EXPECT_FALSE(screens.dark);
+}
+
 class ScreenAwakeTest : public ::testing::Test {
  protected:
   void Appear() {
