@@ -37,7 +37,6 @@ void frmPlaylist::btnAdd_Click() {
   const std::string start = TimeText(TP.Value);
   if (FindListItem(ListPlay, start)) {
     // "chose": meant so.
-    // "chose": meant so.
     MsgBox(start + " already allocated as Play Time, please chose a different time", Buttons::kOk, kPlaylistTitle);
     return;
   }
