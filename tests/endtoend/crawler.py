@@ -19,30 +19,15 @@ def desk_of(desk, station):
     """Opens the desk of the crawler ads by the menu."""
     reader = Reader(desk.screen)
     until("the control window", station.control)
-    for entry in ("Advertisment", "Ad Settings", "Crawlers  Ad settings"):
-        reader.press(entry, "menu item")
+    reader.choose_entry("Advertisment", "Ad Settings", "Crawlers  Ad settings")
     until("the desk", lambda: desk.screen.window(form="frmAdSett"))
     return reader
 
 
-def choose(desk, reader, button, title, file):
-    reader.press(button)
-    until(f"the dialog {title}", lambda: desk.screen.window(title=title))
-    desk.screen.type(str(file))
-    desk.screen.keys("Return")
-    until("the dialog to go", lambda: desk.screen.window(title=title) is None)
-
-
-def write_over(desk, reader, field, text):
-    reader.press(field, "text")
-    desk.screen.keys("ctrl+a")
-    desk.screen.type(text)
-
-
 def make_ad(desk, reader, station, name, header, scroll):
-    choose(desk, reader, "Load Header", "Load Ad's header file", header)
-    choose(desk, reader, "Load Scorl", "Load Ad's scorl file", scroll)
-    write_over(desk, reader, "Ad name", name)
+    reader.choose_file("Load Header", "Load Ad's header file", header)
+    reader.choose_file("Load Scorl", "Load Ad's scorl file", scroll)
+    reader.write_over("Ad name", name)
     reader.press("Save")
     folder = station.folder / "Ads" / name
     until(f"the ad {name}", (folder / "scorl.jpg").exists)
@@ -80,8 +65,7 @@ def three_ads_made_at_the_desk_run_on_the_air_in_turn(desk):
     station.await_setting("AdSettings", "LastAd", "1")
     desk.screen.keys("ctrl+m")
     until("the control window in front", lambda: desk.screen.front() == "frmMid")
-    for entry in ("Advertisment", "Show Ads", "Show crawlers Ad"):
-        reader.press(entry, "menu item")
+    reader.choose_entry("Advertisment", "Show Ads", "Show crawlers Ad")
     station.await_setting("AdSettings", "Show", "True")
     seen = []
     deadline = time.monotonic() + 90
@@ -129,9 +113,9 @@ def a_cut_while_an_ad_is_saved_leaves_no_half_file_and_the_station_comes_back(de
     # What follows the end of a JPEG is none of its business, and makes it take its time to be copied.
     large = desk.folder / "large.jpg"
     large.write_bytes(media.jpeg("white", 480, 40).read_bytes() + bytes(400 << 20))
-    choose(desk, reader, "Load Header", "Load Ad's header file", large)
-    choose(desk, reader, "Load Scorl", "Load Ad's scorl file", large)
-    write_over(desk, reader, "Ad name", "new")
+    reader.choose_file("Load Header", "Load Ad's header file", large)
+    reader.choose_file("Load Scorl", "Load Ad's scorl file", large)
+    reader.write_over("Ad name", "new")
     reader.press("Save")
     folder = station.folder / "Ads" / "new"
     until("the new folder", (folder / "adinfo.ini").exists, pause=0.005)

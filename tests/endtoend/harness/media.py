@@ -66,6 +66,32 @@ def full_hd(seconds=40):
     return _made(f"full-hd-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
 
 
+FRAME_BITS = 12
+FRAMES_A_SECOND = 25
+
+
+def frames(seconds=160):
+    """A video with the number of each frame burnt in: FRAME_BITS upright bars, the first one the lowest bit. In the upper
+    half a white bar is a one and a blue one a zero, in the lower half it is the other way round."""
+    width = 640 / FRAME_BITS
+    bars = [
+        f"drawbox=x={int(width * bit)}:y={y}:w={int(width) + 1}:h=180:color=white:t=fill"
+        f":enable='eq({one}\\,mod(floor(n/{2**bit})\\,2))'"
+        for bit in range(FRAME_BITS) for y, one in ((0, 1), (180, 0))
+    ]
+    video = ["-f", "lavfi", "-i", f"color=c=0x0000ff:s=640x360:r={FRAMES_A_SECOND}:d={seconds}", "-vf", ",".join(bars)]
+    return _made(f"frames-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
+
+
+def number_of_frame(upper, lower):
+    """The number that the bars show, from one pixel of each in both halves; None when they are not those of one frame."""
+    other = {"white": "blue", "blue": "white"}
+    names = [name_of(pixel) for pixel in upper]
+    if [other.get(name) for name in names] != [name_of(pixel) for pixel in lower]:
+        return None
+    return sum(2**bit for bit, name in enumerate(names) if name == "white")
+
+
 def picture(colour):
     return _made(f"{colour}.png", "-f", "lavfi", "-i", f"color=c={_hex(colour)}:s=640x360:d=1", "-frames:v", "1")
 

@@ -41,6 +41,25 @@ class Reader:
         place = until(f'a {role} "{name}" on the screen', lambda: self._resting_place(name, role))
         self._screen.click(place.x + place.width // 2, place.y + place.height // 2)
 
+    def choose_entry(self, *entries):
+        """Opens menu after menu and chooses the last entry."""
+        for entry in entries:
+            self.press(entry, "menu item")
+
+    def write_over(self, field, text, role="text"):
+        """Writes `text` in the place of all that an entry field holds."""
+        self.press(field, role)
+        self._screen.keys("ctrl+a")
+        self._screen.type(text)
+
+    def choose_file(self, button, title, file):
+        """Presses a button and chooses the file in the dialog of that title."""
+        self.press(button)
+        until(f"the dialog {title}", lambda: self._screen.window(title=title))
+        self._screen.type(str(file))
+        self._screen.keys("Return")
+        until("the dialog to go", lambda: self._screen.window(title=title) is None)
+
     def _resting_place(self, name, role):
         """Where it is, once its window has come to rest."""
         first = self._place(name, role)

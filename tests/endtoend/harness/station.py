@@ -79,6 +79,14 @@ class Station:
         left, top, width, whole = self.place
         return self.screen.pixels(left, top + whole - height, width, height)
 
+    def video_ad(self, name, video, **info):
+        """A video ad, as the desk would store it."""
+        folder = self.folder / "VideoAd" / name
+        folder.mkdir(parents=True)
+        shutil.copy2(video, folder)
+        ini.write(folder / "adinfo.ini", {"AdInfo": {"FileName": video.name, "Company": "", "Address": "", **info}})
+        return folder
+
     def start(self, *arguments):
         self._process = self.desk.start(self.program, *arguments, cwd="/")
         return self
@@ -127,6 +135,13 @@ class Station:
         left, top, width, height = self.place
         row = self.screen.pixels(left, top + height // 2, width, 1)[0]
         return media.time_of_clock([row[(2 * bit + 1) * width // (2 * media.CLOCK_BITS)] for bit in range(media.CLOCK_BITS)])
+
+    def frame(self):
+        """The number of the frame on the air of the clip whose frames count; None while something else is there."""
+        left, top, width, height = self.place
+        bars = [(2 * bit + 1) * width // (2 * media.FRAME_BITS) for bit in range(media.FRAME_BITS)]
+        rows = [self.screen.pixels(left, top + height * part // 4, width, 1)[0] for part in (1, 3)]
+        return media.number_of_frame(*([row[x] for x in bars] for row in rows))
 
     def await_colour(self, wanted):
         until(f"{wanted} on the air", lambda: self._is_alive() and self.colour() == wanted)
