@@ -50,6 +50,13 @@ CRAWLERS = [
     ("Library", "Public Library", "Reading hour for children on Wednesdays at four", "0x2c7a4b", "0x12301e"),
 ]
 
+# Name of the ad, file name, address, the colours of its picture, and its tune in hertz.
+VIDEO_ADS = [
+    ("Harbour ferries", "ferries.mp4", "Pier 2", ("0x0b3d5c", "0x1f8a9c", "0x0b3d5c"), (392, 494)),
+    ("Sunrise bakery", "bakery.mp4", "Mill Lane 7", ("0x7a3b12", "0xd98c3f", "0x5c2a10"), (523, 659)),
+]
+VIDEO_AD_SECONDS = 8
+
 SETTINGS = {
     "Settings": {
         "ShowMouse": "1",
@@ -59,6 +66,7 @@ SETTINGS = {
     },
     "Output": {"Show": "True"},
     "AdSettings": {"Show": "True", "LastAd": "1"},
+    "VideoAd": {"Show": "True", "AdPlay": "1", "AdTime": "2"},
     "Playlist": {
         "LastPlay": "1",
         "OneAfterAnother": "1",
@@ -121,6 +129,20 @@ def crawlers(folder):
         write_ini(ad / "adinfo.ini", {"Info": info, "Settings": settings})
 
 
+def video_ads(folder):
+    for name, file_name, address, colours, (low, high) in VIDEO_ADS:
+        size = f"s=1280x720:r=25:d={VIDEO_AD_SECONDS}"
+        shades = ":".join(f"c{number}={colour}" for number, colour in enumerate(colours))
+        tune = f"aevalsrc='0.2*sin(2*PI*if(mod(floor(2*t)\\,2)\\,{high}\\,{low})*t)*exp(-4*mod(t\\,0.5))':d={VIDEO_AD_SECONDS}"
+        clips.make(
+            folder / name / file_name,
+            "-f", "lavfi", "-i", f"gradients={size}:speed=0.02:{shades}:n={len(colours)}",
+            "-f", "lavfi", "-i", tune, "-vf", clips.caption(name), *VIDEO,
+        )
+        info = {"FileName": file_name, "Company": name, "Address": address}
+        write_ini(folder / name / "adinfo.ini", {"AdInfo": info})
+
+
 def main():
     program, station = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     clip_folder = station / "Media" / "Clips"
@@ -128,6 +150,8 @@ def main():
         clips.make(clip_folder / file_name, *recipe)
     if not (station / "Ads").exists():
         crawlers(station / "Ads")
+    if not (station / "VideoAd").exists():
+        video_ads(station / "VideoAd")
     SETTINGS["Playlist"]["FolderPath"] = str(clip_folder)
     write_ini(station / "Settings.ini", SETTINGS)
     write_ini(station / "Window.ini", WINDOWS)

@@ -48,8 +48,7 @@ def main():
             take(screen, manager, "playlist-manager")
             screen.ask_to_close(manager)
             screen.keys("ctrl+m")
-            for entry in ("Advertisment", "Ad Settings", "Crawlers  Ad settings"):
-                reader.press(entry, "menu item")
+            reader.choose_entry("Advertisment", "Ad Settings", "Crawlers  Ad settings")
             ads = until("the desk of the crawler ads", lambda: screen.window(form="frmAdSett"))
             reader.press("Bakery", "table cell")
             time.sleep(1)
@@ -58,6 +57,13 @@ def main():
             preview = until("the preview", lambda: screen.window(form="frmAdView"))
             time.sleep(LAID_OUT)
             take(screen, preview, "ad-preview")
+            screen.ask_to_close(ads)
+            screen.keys("ctrl+m")
+            reader.choose_entry("Advertisment", "Ad Settings", "Video Ad settings")
+            videos = until("the desk of the video ads", lambda: screen.window(form="frmVideoAdSett"))
+            reader.press("Sunrise bakery", "table cell")
+            time.sleep(LAID_OUT)
+            take(screen, videos, "video-ads")
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
