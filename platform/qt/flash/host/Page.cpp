@@ -5,6 +5,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <algorithm>
 #include <cstring>
 
 #include "platform/qt/flash/host/Answers.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr int kBetweenPaintings = 16;  // milliseconds
 // What the page says it has laid out is painted by the browser a little later.
 constexpr int kUntilPainted = 80;
+constexpr int kLongestBlank = 1000;
 
 }  // namespace
 
@@ -84,6 +86,7 @@ void Page::Call(const QString& function, const QJsonArray& arguments) {
 
 void Page::Reload() {
   ready_ = false;
+  ++reloads_;
   calls_.clear();
   for (auto& [slot, part] : parts_) {
     part.laidOut = part.up = false;
@@ -114,11 +117,13 @@ void Page::Tell(const QString& line) {
 }
 
 void Page::PaintSoon(int slot, bool Part::*now) {
-  QTimer::singleShot(kUntilPainted, this, [this, slot, now] {
+  QTimer::singleShot(kUntilPainted, this, [this, slot, now, reloads = reloads_] {
     const auto part = parts_.find(slot);
-    if (part == parts_.end() || part->second.*now) return;
+    if (reloads != reloads_ || part == parts_.end() || part->second.*now) return;  // told by the page before
     part->second.*now = part->second.fresh = true;
+    part->second.sinceUp.start();
     Ask();
+    QTimer::singleShot(kLongestBlank + kBetweenPaintings, this, &Page::Ask);
   });
 }
 
@@ -142,7 +147,8 @@ void Page::Paint() {
   const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
   QList<int> changed;
   for (auto& [slot, part] : parts_) {
-    const bool isThere = part.frames && part.laidOut && part.up && picture.rect().contains(part.place);
+    const bool isThere =
+        part.frames && part.laidOut && part.up && !MustWait(part, picture) && picture.rect().contains(part.place);
     if (!isThere || part.frames->Size() != part.place.size() || (!part.fresh && !Changed(part, picture))) continue;
     part.fresh = false;
     uchar* to = part.frames->Paint();
@@ -156,6 +162,18 @@ void Page::Paint() {
   }
   picture_ = picture;
   if (!changed.isEmpty()) listener_.pictures(changed);
+}
+
+// The browser may paint the first picture of a movie later than the page says so. Until then the last one stays; a
+// movie that begins with nothing to be seen is believed after a while.
+bool Page::MustWait(const Part& part, const QImage& picture) const {
+  if (!part.fresh || part.sinceUp.hasExpired(kLongestBlank)) return false;
+  const QRect place = part.place & picture.rect();
+  for (int row = place.top(); row <= place.bottom(); ++row) {
+    const auto* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row)) + place.left();
+    if (std::any_of(pixels, pixels + place.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; })) return false;
+  }
+  return true;
 }
 
 bool Page::Changed(const Part& part, const QImage& picture) const {

@@ -49,6 +49,7 @@ class Page : public QObject {
     bool laidOut = false;  // its place on the page is its own by now
     bool up = false;       // a movie is seen there; before that the last picture stays
     bool fresh = true;     // nothing was painted since
+    QElapsedTimer sinceUp;
   };
 
   void Tell(const QString& line);
@@ -59,6 +60,7 @@ class Page : public QObject {
   void Paint();
   bool IsAlive() const;
   bool Changed(const Part& part, const QImage& picture) const;
+  bool MustWait(const Part& part, const QImage& picture) const;
 
   Listener listener_;
   QQuickRenderControl control_;
@@ -68,6 +70,7 @@ class Page : public QObject {
   std::map<int, Part> parts_;
   QStringList calls_;  // that wait for the page
   bool ready_ = false;
+  int reloads_ = 0;
   QImage picture_;  // the last one
   QTimer due_;
   QElapsedTimer sincePainted_;
