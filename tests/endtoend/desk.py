@@ -133,6 +133,8 @@ def the_guide_opens_in_a_window_of_the_station(desk):
         guide = until("the guide", lambda: desk.screen.window(title="Help"))
         desk.screen.ask_to_close(guide)
         until("the guide to go", lambda: desk.screen.window(title="Help") is None)
+    # It may have stood over the picture, which is painted anew where it stood.
+    station.await_colour("red")
     throughout("red on the air", lambda: station.colour() == "red", 1)
 
 
