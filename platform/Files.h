@@ -62,7 +62,8 @@ class Files {
   // Removes a file; true when it is gone.
   virtual bool Remove(const std::string& path) = 0;
   // Removes a folder with all in it, not following links; true when it is gone. It leaves its name in one step: a crash
-  // leaves the folder whole or no folder of that name.
+  // leaves the folder whole or no folder of that name. What was in it leaves the medium within a second or so,
+  // elsewhere.
   virtual bool RemoveTree(const std::string& path) = 0;
   // Makes a folder and those above it; true when it is there.
   virtual bool CreateFolder(const std::string& path) = 0;

@@ -8,9 +8,10 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <vector>
+#include <utility>
 
 #include "platform/posix/FileHandle.h"
+#include "platform/posix/RemoveTree.h"
 #include "platform/posix/ResolvePath.h"
 #include "platform/posix/SafeNames.h"
 
@@ -63,12 +64,22 @@ bool PosixFiles::Flusher::Swap(const std::string& target, const std::string& unf
     return false;
   }
   entry->second.digest = digest;
-  if (!thread_.joinable()) {
-    thread_ = std::thread([this] { Run(); });
-    pthread_setname_np(thread_.native_handle(), "flush");
-  }
+  Start();
   if (isNew) wake_.notify_one();
   return true;
+}
+
+void PosixFiles::Flusher::Start() {
+  if (thread_.joinable()) return;
+  thread_ = std::thread([this] { Run(); });
+  pthread_setname_np(thread_.native_handle(), "flush");
+}
+
+void PosixFiles::Flusher::RemoveTree(const std::string& folder) {
+  const std::lock_guard lock(mutex_);
+  trees_.push_back(folder);
+  Start();
+  wake_.notify_one();
 }
 
 // Sees to it that the newest version on the medium has a second name that tells what the file is about to hold. False
@@ -109,13 +120,22 @@ void PosixFiles::Flusher::Run() {
   pthread_sigmask(SIG_BLOCK, &all, nullptr);
   std::unique_lock lock(mutex_);
   for (;;) {
-    wake_.wait(lock, [this] { return ending_ || !pending_.empty(); });
+    wake_.wait(lock, [this] { return ending_ || !pending_.empty() || !trees_.empty(); });
     wake_.wait_for(lock, kGather, [this] { return ending_; });
-    if (pending_.empty()) return;
+    if (pending_.empty() && trees_.empty()) return;
+    RemoveTrees(lock);
     std::vector<std::string> targets;
     for (const auto& [target, pending] : pending_) targets.push_back(target);
     for (const std::string& target : targets) Flush(target, lock);
   }
+}
+
+// What cannot be removed now is tried again when the folder above is first touched by another run.
+void PosixFiles::Flusher::RemoveTrees(std::unique_lock<std::mutex>& lock) {
+  const std::vector<std::string> trees = std::exchange(trees_, {});
+  lock.unlock();
+  for (const std::string& tree : trees) RemoveTreeAt(AT_FDCWD, tree.c_str());
+  lock.lock();
 }
 
 void PosixFiles::Flusher::Flush(const std::string& target, std::unique_lock<std::mutex>& lock) {

@@ -15,7 +15,6 @@
 #include "platform/posix/RawFile.h"
 #include "platform/posix/ReadAll.h"
 #include "platform/posix/RecoverFolder.h"
-#include "platform/posix/RemoveTree.h"
 #include "platform/posix/ResolvePath.h"
 #include "platform/posix/SafeNames.h"
 
@@ -114,7 +113,8 @@ bool PosixFiles::RemoveTree(const std::string& path) {
   Recover(folder);
   const std::string hidden = UnfinishedName(folder);
   if (rename(target.c_str(), hidden.c_str()) != 0) return false;
-  return RemoveTreeAt(AT_FDCWD, hidden.c_str());
+  flusher_->RemoveTree(hidden);
+  return true;
 }
 
 bool PosixFiles::CreateFolder(const std::string& path) {

@@ -127,13 +127,27 @@ TEST_F(PosixFilesTest, ATreeIsRemovedWithoutFollowingLinks) {
   EXPECT_EQ(files.Read(At("kept/file")), "x");
 }
 
+TEST_F(PosixFilesTest, AllThatWasInARemovedFolderIsGoneAtTheLatestWhenTheProgramEnds) {
+  {
+    PosixFiles files;
+    files.CreateFolder(At("ad/deep"));
+    WriteByOther(At("ad/deep/large.mp4"), std::string(1 << 20, 'x'));
+    EXPECT_TRUE(files.RemoveTree(At("ad")));
+    EXPECT_TRUE(files.List(folder.Path(), FileKind::kFolder).empty());
+  }
+  EXPECT_TRUE(Names().empty());
+}
+
 TEST_F(PosixFilesTest, AFolderIsRemovedWhileItsFilesAreOnTheirWayToTheMedium) {
-  PosixFiles files;
   for (int round = 0; round < 50; ++round) {
-    ASSERT_TRUE(files.CreateFolder(At("ad")));
-    for (int i = 0; i < 10; ++i) ASSERT_TRUE(files.Replace(At("ad/adinfo.ini"), std::to_string(i)));
-    std::this_thread::sleep_for(std::chrono::milliseconds(round % 7));
-    ASSERT_TRUE(files.RemoveTree(At("ad")));
+    {
+      PosixFiles files;
+      ASSERT_TRUE(files.CreateFolder(At("ad")));
+      for (int i = 0; i < 10; ++i) ASSERT_TRUE(files.Replace(At("ad/adinfo.ini"), std::to_string(i)));
+      std::this_thread::sleep_for(std::chrono::milliseconds(round % 7));
+      ASSERT_TRUE(files.RemoveTree(At("ad")));
+      ASSERT_TRUE(files.List(folder.Path(), FileKind::kFolder).empty());
+    }
     ASSERT_TRUE(Names().empty());
   }
 }
@@ -152,11 +166,13 @@ TEST_F(PosixFilesTest, AFolderWhoseRemovalIsCutOffIsWholeOrGone) {
     usleep(static_cast<useconds_t>(round) * 100);
     if (round + 1 < kRounds) kill(remover, SIGKILL);
     waitpid(remover, nullptr, 0);
-    PosixFiles files;
-    if (!files.List(folder.Path(), FileKind::kFolder).empty()) {
-      EXPECT_LT(round + 1, kRounds);
-      EXPECT_EQ(files.List(At("ad/deep"), FileKind::kRegular).size(), static_cast<std::size_t>(kFiles));
-      EXPECT_TRUE(files.RemoveTree(At("ad/")));
+    {
+      PosixFiles files;
+      if (!files.List(folder.Path(), FileKind::kFolder).empty()) {
+        EXPECT_LT(round + 1, kRounds);
+        EXPECT_EQ(files.List(At("ad/deep"), FileKind::kRegular).size(), static_cast<std::size_t>(kFiles));
+        EXPECT_TRUE(files.RemoveTree(At("ad/")));
+      }
     }
     ASSERT_TRUE(Names().empty());
   }
