@@ -83,9 +83,18 @@ bool Create(Station& station, AdStore store, const std::string& name) {
   return false;
 }
 
-bool IsUnfinished(const Files& files, const std::string& folder) {
-  return files.List(folder, FileKind::kRegular) == std::vector<std::string>{"adinfo.ini"} &&
-         files.List(folder, FileKind::kFolder).empty() && files.Read(folder + "/adinfo.ini") == "";
+void SettleIfUnfinished(Station& station, const std::string& name) {
+  const Files& files = station.world.files;
+  const std::string folder = AdPath(station, AdStore::kVideo, name);
+  if (files.Read(folder + "/adinfo.ini") != "" || !files.List(folder, FileKind::kFolder).empty()) return;
+  std::vector<std::string> others = files.List(folder, FileKind::kRegular);
+  std::erase(others, "adinfo.ini");
+  if (others.empty()) {
+    DeleteAdFolder(station, AdStore::kVideo, name);
+  } else if (others.size() == 1) {
+    station.stores.VideoAdInfoFile(name);
+    station.stores.VideoAdInfoIni.WriteValue("AdInfo", "FileName", others.front());
+  }
 }
 
 }  // namespace
@@ -110,10 +119,10 @@ bool CreateAdFolder(Station& station, const std::string& name) { return Create(s
 
 bool CreateVideoAdFolder(Station& station, const std::string& name) { return Create(station, AdStore::kVideo, name); }
 
-void RemoveUnfinishedAds(Station& station, AdStore store) {
-  Files& files = station.world.files;
-  for (const std::string& name : files.List(station.dataFolder.Path(Of(store).folder), FileKind::kFolder)) {
-    if (IsAdName(name) && IsUnfinished(files, AdPath(station, store, name))) DeleteAdFolder(station, store, name);
+void SettleUnfinishedVideoAds(Station& station) {
+  const std::string store = station.dataFolder.Path(Of(AdStore::kVideo).folder);
+  for (const std::string& name : station.world.files.List(store, FileKind::kFolder)) {
+    if (IsAdName(name)) SettleIfUnfinished(station, name);
   }
 }
 

@@ -29,9 +29,10 @@ void LoadVideoAdList(Station& station, const std::string& folder, ListView& list
 bool CreateAdFolder(Station& station, const std::string& name);
 bool CreateVideoAdFolder(Station& station, const std::string& name);
 
-// Removes what a cut left of ads that were being made: folders with nothing in them but an empty adinfo.ini. No such ad
-// could ever be played, or be over. Not for while one is being made.
-void RemoveUnfinishedAds(Station& station, AdStore store);
+// Settles what a cut left of video ads that were being made: folders whose adinfo.ini is empty. No such ad could ever
+// be played, or be over, and its break would hold the programme. One whose video is there gets its name into the
+// description; one with nothing else in it is removed. Not for while one is being made.
+void SettleUnfinishedVideoAds(Station& station);
 
 // Removes the ad with all its files. What is no ad's name removes nothing.
 void DeleteAdFolder(Station& station, AdStore store, const std::string& name);

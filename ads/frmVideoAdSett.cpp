@@ -40,7 +40,7 @@ frmVideoAdSett::frmVideoAdSett(Station& station)
 
 void frmVideoAdSett::Load() {
   station_.stores.SettingsFile();
-  RemoveUnfinishedAds(station_, AdStore::kVideo);
+  SettleUnfinishedVideoAds(station_);
   LoadSett();
 }
 

@@ -263,4 +263,15 @@ TEST_F(VideoAdDeskTest, WhatACutLeftOfAnAdThatWasBeingMadeIsNoAd) {
   EXPECT_EQ(sim.files.Kind("/station/VideoAd/cut"), FileKind::kAbsent);
 }
 
+TEST_F(VideoAdDeskTest, AVideoWhoseDescriptionWasCutOffIsFoundAgain) {
+  sim.files.Put(In("cut", "adinfo.ini"), "");
+  sim.files.Put(In("cut", "v.mp4"), "media");
+  sim.files.Put(In("two videos", "adinfo.ini"), "");
+  sim.files.Put(In("two videos", "v.mp4"), "media");
+  sim.files.Put(In("two videos", "w.mp4"), "media");
+  EXPECT_EQ(Shown(), (Names{"cut", "two videos"}));
+  EXPECT_EQ(sim.files.Read(In("cut", "adinfo.ini")), "[AdInfo]\r\nFileName=v.mp4\r\n");
+  EXPECT_EQ(sim.files.Read(In("two videos", "adinfo.ini")), "");  // nobody knows which
+}
+
 }  // namespace
