@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <QTextTable>
 #include <QThreadPool>
 
 #include "platform/qt/desktop/WindowClass.h"
@@ -13,6 +14,8 @@ constexpr char kGuide[] = ":/guide/operator-guide.md";
 constexpr char kPictures[] = ":/guide/pictures";
 constexpr QSize kSize(900, 720);
 constexpr int kPictureWidth = 820;  // fits beside the scroll bar
+constexpr int kMargin = 16;         // around the text
+constexpr int kCellPadding = 4;     // of the tables
 
 // By the names that the guide calls them.
 QMap<QString, QImage> DecodePictures() {
@@ -23,6 +26,17 @@ QMap<QString, QImage> DecodePictures() {
     pictures.insert("pictures/" + files.fileName(), picture);
   }
   return pictures;
+}
+
+void PadTables(QTextFrame& frame) {
+  for (QTextFrame* child : frame.childFrames()) {
+    if (auto* table = qobject_cast<QTextTable*>(child)) {
+      QTextTableFormat format = table->format();
+      format.setCellPadding(kCellPadding);
+      table->setFormat(format);
+    }
+    PadTables(*child);
+  }
 }
 
 }  // namespace
@@ -59,6 +73,8 @@ void GuideWindow::Open(const QMap<QString, QImage>& pictures) {
   for (auto picture = pictures.begin(); picture != pictures.end(); ++picture) {
     text->addResource(QTextDocument::ImageResource, QUrl(picture.key()), picture.value());
   }
+  text->setDocumentMargin(kMargin);
+  PadTables(*text->rootFrame());
   window_->setDocument(text);
   window_->setOpenLinks(false);
   window_->winId();  // makes the window that gets the name

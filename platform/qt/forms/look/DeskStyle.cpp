@@ -74,7 +74,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     return;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (element == PE_FrameLineEdit || element == PE_Frame) DrawEdge(*option, *painter);
+  if (element == PE_FrameLineEdit || element == PE_Frame || element == PE_FrameMenu) DrawEdge(*option, *painter);
 }
 
 void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -44,7 +44,7 @@ constexpr IconRow kControls[] = {
     {"FrmPageSettings", "vkCommand3", "application-exit"},
     {"FrmPageSettings", "vkCommand4", "view-preview"},
     {"FrmPageSettings", "vkCommand5", "dialog-ok-apply"},
-    {"frmAbout", "btnLoadScorl", "window-close"},
+    {"frmAbout", "btnLoadScorl", "dialog-ok"},
     {"frmAdSett", "LoadAd", "document-save"},
     {"frmAdSett", "btnPlay", "media-playback-stop"},
     {"frmAdSett", "imgPlay", "media-playback-start"},
