@@ -5,7 +5,6 @@ import time
 
 from harness import ini, media
 from harness.patience import throughout, until
-from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import Station
 
@@ -46,13 +45,8 @@ def ads_of_a_break(station):
     raise AssertionError(f"no break in two minutes; seen {ads}")
 
 
-def desk_of(desk, station):
-    """Opens the desk of the video ads by the menu."""
-    reader = Reader(desk.screen)
-    until("the control window", station.control)
-    reader.choose_entry("Advertisment", "Ad Settings", "Video Ad settings")
-    until("the desk", lambda: desk.screen.window(form="frmVideoAdSett"))
-    return reader
+def desk_of(station):
+    return station.open_form("frmVideoAdSett", "Advertisment", "Ad Settings", "Video Ad settings")
 
 
 def names_in(folder):
@@ -114,7 +108,7 @@ def a_break_that_is_cut_off_is_over_and_the_programme_is_on_the_air(desk):
 def a_cut_while_an_ad_is_saved_leaves_no_half_ad(desk):
     station = station_with_ads(desk, "red", seconds_left=50, StartUp=1)
     station.start_on_air()
-    reader = desk_of(desk, station)
+    reader = desk_of(station)
     # What follows the end of the video is none of its business, and makes it take its time to be copied.
     large = desk.folder / "large.mp4"
     large.write_bytes(media.clip("green").read_bytes())
@@ -140,7 +134,7 @@ def a_cut_while_an_ad_is_deleted_leaves_no_half_ad(desk):
     for number in range(20_000):
         (folder / f"{number}.txt").touch()
     station.start_on_air()
-    reader = desk_of(desk, station)
+    reader = desk_of(station)
     reader.press("b", "table cell")
     reader.press("Delete Ad file")
     reader.press("Yes")
@@ -158,7 +152,7 @@ def an_ad_made_at_the_desk_plays_in_the_break_that_the_desk_sets(desk):
     station = station_with_ads(desk, "red", ads="", StartUp=1)
     station.change("VideoAd", AdTime=999)
     station.start_on_air()
-    reader = desk_of(desk, station)
+    reader = desk_of(station)
     reader.choose_file("Load Ad file", "Load Ad's header file", media.clip("green"))
     reader.write_over("Ad name", "b")
     reader.write_over("Company", "Company b")

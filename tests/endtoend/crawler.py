@@ -5,7 +5,6 @@ import time
 
 from harness import ini, media
 from harness.patience import until
-from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import Station
 
@@ -15,13 +14,8 @@ RULER_SPEED = 90
 TWIPS = 15
 
 
-def desk_of(desk, station):
-    """Opens the desk of the crawler ads by the menu."""
-    reader = Reader(desk.screen)
-    until("the control window", station.control)
-    reader.choose_entry("Advertisment", "Ad Settings", "Crawlers  Ad settings")
-    until("the desk", lambda: desk.screen.window(form="frmAdSett"))
-    return reader
+def desk_of(station):
+    return station.open_form("frmAdSett", "Advertisment", "Ad Settings", "Crawlers  Ad settings")
 
 
 def make_ad(desk, reader, station, name, header, scroll):
@@ -52,7 +46,7 @@ def three_ads_made_at_the_desk_run_on_the_air_in_turn(desk):
     station = Station(desk, settings={"Settings": {"StartUp": "1"}})
     station.playlist(media.clip("black", 60))
     station.start_on_air()
-    reader = desk_of(desk, station)
+    reader = desk_of(station)
     made = {"a": ("yellow", "red"), "b": ("white", "green"), "c": ("magenta", "blue")}
     for name, (header, scroll) in made.items():
         pictures = media.jpeg(header, 480, 40), media.jpeg(scroll, 600, SCROLL_HEIGHT)
@@ -108,7 +102,7 @@ def a_cut_while_an_ad_is_saved_leaves_no_half_file_and_the_station_comes_back(de
     station.crawler_ad("good", media.jpeg("yellow", 480, 40), media.jpeg("green", 4000, SCROLL_HEIGHT))
     station.playlist(media.clip("red", 60))
     station.start_on_air()
-    reader = desk_of(desk, station)
+    reader = desk_of(station)
     reader.press("Stop")
     # What follows the end of a JPEG is none of its business, and makes it take its time to be copied.
     large = desk.folder / "large.jpg"
@@ -123,6 +117,29 @@ def a_cut_while_an_ad_is_saved_leaves_no_half_file_and_the_station_comes_back(de
     station.start_on_air()
     for file in folder.glob("*.jpg"):
         assert file.stat().st_size == large.stat().st_size, f"{file.name} is half"
+    station.await_colour("red")
+    until("the good ad on the band", lambda: colours_of_band(station)[1] == "green")
+
+
+@scenario
+def a_cut_while_an_ad_is_deleted_leaves_no_half_ad_and_the_station_comes_back(desk):
+    station = Station(desk, settings={"Settings": {"StartUp": "1"}, "AdSettings": {"Show": "True"}})
+    station.crawler_ad("good", media.jpeg("yellow", 480, 40), media.jpeg("green", 4000, SCROLL_HEIGHT))
+    folder = station.crawler_ad("old", media.jpeg("white", 480, 40), media.jpeg("blue", 4000, SCROLL_HEIGHT))
+    for number in range(20_000):
+        (folder / f"{number}.txt").touch()
+    station.playlist(media.clip("red", 60))
+    station.start_on_air()
+    reader = desk_of(station)
+    reader.press("Stop")
+    reader.press("old", "table cell")
+    reader.press("Remove")
+    reader.press("Yes")
+    until("the ad to go", lambda: not folder.exists(), pause=0.001)
+    station.stop()
+    print("left of the ad by the cut:", [len(list(path.iterdir())) for path in folder.parent.glob(".*")])
+    station.start_on_air()
+    until("all of the ad to be gone", lambda: [path.name for path in folder.parent.iterdir()] == ["good"])
     station.await_colour("red")
     until("the good ad on the band", lambda: colours_of_band(station)[1] == "green")
 

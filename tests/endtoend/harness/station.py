@@ -7,6 +7,7 @@ import time
 
 from . import ini, media
 from .patience import until
+from .reader import Reader
 
 PROGRAM = media.ROOT / "build" / "release" / "app" / "corvanta"
 MOVIES = PROGRAM.with_name("corvanta-movies")
@@ -114,6 +115,14 @@ class Station:
 
     def await_setting(self, section, key, wanted):
         until(f"{key}={wanted} in {section}", lambda: self.setting(section, key) == wanted)
+
+    def open_form(self, form, *entries):
+        """Opens a form by the entries of the menu that lead to it. Gives a reader of its controls."""
+        reader = Reader(self.screen)
+        until("the control window", self.control)
+        reader.choose_entry(*entries)
+        until(f"the form {form}", lambda: self.screen.window(form=form))
+        return reader
 
     def output(self):
         return self.screen.window(form="frmPlayer")
