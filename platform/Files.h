@@ -70,4 +70,7 @@ class Files {
   // Names in a folder, files or folders alike as `kind` asks, sorted without regard to case, then by bytes; empty when
   // it cannot be read. What this program keeps there for its own safety is left out.
   virtual std::vector<std::string> List(const std::string& folder, FileKind kind) const = 0;
+  // The root, and behind it each medium that is mounted now, sorted; each once, as the path of its folder. Nothing is
+  // asked of a medium itself, which may be slow or gone.
+  virtual std::vector<std::string> Drives() const = 0;
 };

@@ -11,6 +11,7 @@
 #include "platform/CaseFold.h"
 #include "platform/posix/FileHandle.h"
 #include "platform/posix/Flusher.h"
+#include "platform/posix/MountedMedia.h"
 #include "platform/posix/PosixWatch.h"
 #include "platform/posix/RawFile.h"
 #include "platform/posix/ReadAll.h"
@@ -141,4 +142,13 @@ std::vector<std::string> PosixFiles::List(const std::string& folder, FileKind ki
   }
   std::sort(names.begin(), names.end(), LessIgnoringCase);
   return names;
+}
+
+std::vector<std::string> PosixFiles::Drives() const {
+  const FileHandle table = OpenForReading("/proc/self/mounts");
+  std::string content;
+  if (!table.IsOpen() || !ReadAll(table.Get(), 0, content)) content.clear();
+  std::vector<std::string> drives = MountedMedia(content);
+  drives.insert(drives.begin(), "/");
+  return drives;
 }

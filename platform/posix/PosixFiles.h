@@ -20,6 +20,7 @@ class PosixFiles : public Files {
   bool RemoveTree(const std::string& path) override;
   bool CreateFolder(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder, FileKind kind) const override;
+  std::vector<std::string> Drives() const override;
 
  private:
   class Flusher;

@@ -208,6 +208,22 @@ std::vector<std::string> SimFiles::List(const std::string& folder, FileKind kind
   return names;
 }
 
+std::vector<std::string> SimFiles::Drives() const {
+  std::vector<std::string> drives(mounted_.begin(), mounted_.end());
+  drives.insert(drives.begin(), "/");
+  return drives;
+}
+
+void SimFiles::Mount(const std::string& folder) {
+  CreateFolder(folder);
+  mounted_.insert(Resolve(folder));
+}
+
+void SimFiles::Unmount(const std::string& folder) {
+  mounted_.erase(Resolve(folder));
+  RemoveTree(folder);
+}
+
 void SimFiles::Put(const std::string& path, const std::string& content) {
   const bool wasFull = std::exchange(full_, false);
   CreateFolder(path.substr(0, path.rfind('/') + 1));

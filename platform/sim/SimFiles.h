@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -30,11 +31,15 @@ class SimFiles : public Files {
   bool RemoveTree(const std::string& path) override;
   bool CreateFolder(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder, FileKind kind) const override;
+  std::vector<std::string> Drives() const override;
 
   // Puts a file of exactly that name on the disk past all faults, with the folders above it, as somebody else would.
   void Put(const std::string& path, const std::string& content);
   // Sets the fault of a path, which need not exist; it stays until it is set to kNone.
   void SetFault(const std::string& path, FileFault fault);
+  // Mounts a medium at a folder, which is made where it is missing; takes it off again, with all that is on it.
+  void Mount(const std::string& folder);
+  void Unmount(const std::string& folder);
   // While the disk is full no file can be replaced and no folder made; all else works.
   void SetDiskFull(bool full) { full_ = full; }
 
@@ -53,5 +58,6 @@ class SimFiles : public Files {
 
   std::unique_ptr<Entry> root_;
   std::map<std::string, FileFault> faults_;  // by folded path
+  std::set<std::string> mounted_;
   bool full_ = false;
 };

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/posix/PosixFiles.h"
 #include "platform/sim/SimFiles.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -194,6 +196,15 @@ TYPED_TEST(FilesContractTest, AWatchTellsOfEveryWayInWhichAFileCanChange) {
     this->files.Remove(path);
     this->files.Replace(path, "new");
   }));
+}
+
+TYPED_TEST(FilesContractTest, TheDrivesBeginWithTheRootAndAreFoldersSortedAndEachOnce) {
+  std::vector<std::string> drives = this->files.Drives();
+  ASSERT_FALSE(drives.empty());
+  EXPECT_EQ(drives.front(), "/");
+  for (const std::string& drive : drives) EXPECT_EQ(this->files.Kind(drive), FileKind::kFolder) << drive;
+  EXPECT_TRUE(std::ranges::is_sorted(drives));
+  EXPECT_EQ(std::ranges::adjacent_find(drives), drives.end());
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <thread>
 
+#include "platform/posix/MountedMedia.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/SafeNames.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -300,6 +301,27 @@ TEST(SafeNamesTest, AKeptNameIsReadBackWhateverTheFileIsCalled) {
        {"", ".kept~", ".a.kept~", ".a.0123456789abcdef.kept~", "a.ini", ".a.0123456789abcdeg.0123456789abcdef.kept~"}) {
     EXPECT_FALSE(read.Parse(name)) << name;
   }
+}
+
+TEST(MountedMediaTest, MediaAreWhatIsMountedWhereDesktopsAndPeopleMountThem) {
+  EXPECT_EQ(MountedMedia("/dev/sda1 / ext4 rw 0 0\n"
+                         "tmpfs /run tmpfs rw 0 0\n"
+                         "/dev/sdc1 /media/op/My\\040stick vfat rw 0 0\n"
+                         "nas:/films /mnt/films nfs rw 0 0\n"
+                         "/dev/sda2 /boot/efi vfat rw 0 0\n"
+                         "/dev/sdb1 /run/media/op/a\\134b ext4 rw 0 0\n"
+                         "/dev/sdb1 /run/media/op/a\\134b ext4 rw 0 0\n"
+                         "/dev/sdd1 /mnt ext4 rw 0 0\n"
+                         "tmpfs /mntal tmpfs rw 0 0\n"
+                         "tmpfs /media/ tmpfs rw 0 0"),
+            (std::vector<std::string>{"/media/op/My stick", "/mnt", "/mnt/films", "/run/media/op/a\\b"}));
+}
+
+TEST(MountedMediaTest, ATableThatIsNoneHasNoMedia) {
+  for (const char* table : {"", "\n\n", "x", "x /media/\\04", "x /media/a"}) {
+    EXPECT_LE(MountedMedia(table).size(), 1U) << table;
+  }
+  EXPECT_EQ(MountedMedia("x /media/b\\04"), std::vector<std::string>{"/media/b\\04"});
 }
 
 }  // namespace
