@@ -11,7 +11,8 @@ class Form;
 class MenuItem;
 
 // The real window behind a form. It follows the form's and the controls' properties by observing them, and tells the
-// form what the operator does. When it goes, the window is off the screen.
+// form what the operator does. A window that comes on the screen, is shown again, or is told to be on top stands in
+// front of all others of its kind; those on top stand in front of the rest. When it goes, the window is off the screen.
 class FormWindow {
  public:
   virtual ~FormWindow() = default;

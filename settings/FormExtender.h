@@ -25,7 +25,7 @@ class FormExtender : public Component {
   // Gives the window to the store as it stands: nothing is restored.
   void Hold();
 
-  Property<bool>& OnTop;
+  Settable<bool>& OnTop;
 
  private:
   struct Place {

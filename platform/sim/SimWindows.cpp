@@ -1,5 +1,6 @@
 #include "platform/sim/SimWindows.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -10,15 +11,26 @@
 class SimWindow : public FormWindow {
  public:
   SimWindow(SimWindows& windows, Form& form) : windows_(windows), form_(form) {
-    visible_ = form.Visible.Changed.Subscribe([this] { Tell(form_.Visible ? "shown" : "hidden"); });
+    following_.push_back(form.Visible.Changed.Subscribe([this] {
+      Tell(form_.Visible ? "shown" : "hidden");
+      Leave();
+      if (form_.Visible) ComeForward();
+    }));
+    following_.push_back(form.ShowAsked.Subscribe([this] { ComeForward(); }));
+    following_.push_back(form.OnTop.Changed.Subscribe([this] { ComeForward(); }));
     for (Component* component : form.Components()) {
       if (auto* pane = dynamic_cast<PictureBox*>(component)) {
-        decoding_.push_back(pane->Picture.Changed.Subscribe([this, pane] { Decode(*pane); }));
+        following_.push_back(pane->Picture.Changed.Subscribe([this, pane] { Decode(*pane); }));
       }
     }
     Tell("loaded");
   }
-  ~SimWindow() override { Tell("unloaded"); }
+  ~SimWindow() override {
+    Leave();
+    Tell("unloaded");
+  }
+
+  const Form& Shown() const { return form_; }
 
   void Focus(const Control& control) override { windows_.focus = form_.Name() + "." + control.Name(); }
   void DragWindow(std::function<void()> done) override {
@@ -44,16 +56,31 @@ class SimWindow : public FormWindow {
       if (!alive.expired()) pane.Decoded(load, shows);
     });
   }
+  void Leave() { std::erase(windows_.shown_, this); }
+  void ComeForward() {
+    if (!form_.Visible) return;
+    Leave();
+    windows_.shown_.insert(windows_.shown_.begin(), this);
+  }
   void Tell(const std::string& what) { windows_.trace_.Add(form_.Name() + " " + what); }
 
   SimWindows& windows_;
   Form& form_;
-  Subscription visible_;
-  std::vector<Subscription> decoding_;
+  std::vector<Subscription> following_;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>();
 };
 
 std::unique_ptr<FormWindow> SimWindows::Create(Form& form) { return std::make_unique<SimWindow>(*this, form); }
+
+std::vector<std::string> SimWindows::Stack() const {
+  std::vector<std::string> names;
+  for (const bool onTop : {true, false}) {
+    for (const SimWindow* window : shown_) {
+      if (window->Shown().OnTop == onTop) names.push_back(window->Shown().Name());
+    }
+  }
+  return names;
+}
 
 void SimWindows::MovePointer(Twips right, Twips down) {
   if (dragMoved_) dragMoved_(right, down);

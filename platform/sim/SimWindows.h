@@ -2,14 +2,17 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/Windows.h"
 #include "platform/sim/SimShell.h"
 #include "platform/sim/SimTime.h"
 #include "platform/sim/SimTrace.h"
 
-// Windows that nobody sees: they tell when they are shown, hidden and gone, and decode pictures as
-// soon as the handler that loads them has returned.
+class SimWindow;
+
+// Windows that nobody sees: they tell when they are shown, hidden and gone, stand in front of each other, and decode
+// pictures as soon as the handler that loads them has returned.
 class SimWindows : public Windows {
  public:
   SimWindows(SimTrace& trace, SimTime& time, const SimPictures& pictures)
@@ -17,6 +20,9 @@ class SimWindows : public Windows {
 
   std::unique_ptr<FormWindow> Create(Form& form) override;
   PixelSize ScreenSize() const override { return screenSize; }
+
+  // The windows on the screen by the names of their forms, from front to back.
+  std::vector<std::string> Stack() const;
 
   // Moves the pointer of the drag that is under way, so far from where the button went down.
   void MovePointer(Twips right, Twips down);
@@ -35,6 +41,7 @@ class SimWindows : public Windows {
   SimTrace& trace_;
   SimTime& time_;
   const SimPictures& pictures_;
+  std::vector<const SimWindow*> shown_;  // front to back, whether on top or not
   std::function<void(Twips, Twips)> dragMoved_;
   std::function<void()> dragDone_;
 };

@@ -17,7 +17,14 @@ class Counted {
 
 }  // namespace
 
-Form::Form(Forms& forms, std::string name, Kind kind) : forms_(forms), name_(std::move(name)), kind_(kind) {}
+Form::Form(Forms& forms, std::string name, Kind kind) : forms_(forms), name_(std::move(name)), kind_(kind) {
+  const auto tell = [this] { Handle({.event = "Resize"}, [this] { Resize.Raise(); }); };
+  Width.Changed.Connect(tell);
+  Height.Changed.Connect(tell);
+  Visible.Changed.Connect([this, tell] {
+    if (Visible) tell();
+  });
+}
 
 Form::~Form() = default;
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,12 +11,16 @@
 #include "platform/World.h"
 #include "platform/toolkit/Control.h"
 #include "platform/toolkit/Forms.h"
+#include "platform/toolkit/Settable.h"
 
 class FormWindow;
 class MenuItem;
 
 // As much of a preview's height is its frame, whatever the desktop's own frames measure.
 inline constexpr Twips kPreviewFrame = 490;
+
+// A bit of a window's extended style: the window is see-through.
+inline constexpr std::int32_t kLayered = 0x80000;
 
 // What the operator's pointer looks like over the bare form.
 enum class MousePointer { kDefault = 0, kSizeNESW = 6, kSizeNS = 7, kSizeNWSE = 8, kSizeWE = 9, kMove = 15 };
@@ -83,18 +89,30 @@ class Form {
 
   Property<std::string> Caption;
   Property<bool> Visible{false};
-  Property<bool> OnTop{false};
+  // Whether the window stands above all that are not on top. Acts at each assignment: told again, the window comes in
+  // front of the others that are.
+  Settable<bool> OnTop{false, [this](bool onTop) { OnTop.Store(onTop); }};
   Property<bool> Maximised{false};
   Property<Twips> Left;
   Property<Twips> Top;
   Property<Twips> Width;
   Property<Twips> Height;
 
+  // Of an on-air form: what stands behind its controls.
+  Property<Colour> BackColor{kBlack};
+  // Bits, as the window system counts them. With kLayered what lies behind an on-air form is seen where its controls
+  // leave it bare or their pictures are see-through, and through every pixel of a still picture that has KeyColour.
+  Property<std::int32_t> ExtendedStyle{0};
+  Property<std::optional<Colour>> KeyColour;
+  // KeyColour as far as it is in force; nothing where the form is opaque.
+  std::optional<Colour> KeyInForce() const { return (ExtendedStyle & kLayered) != 0 ? KeyColour.Get() : std::nullopt; }
+
   Property<MousePointer> Pointer{MousePointer::kDefault};
 
   Event<const MousePlace&> MouseDown;
   Event<const MousePlace&> MouseMove;
   Event<> ShowAsked;  // also of a form that is visible
+  Event<> Resize;     // the form comes on the screen, or its width or height has changed, by whomever
 
  protected:
   // Brings the form up, hidden.

@@ -107,6 +107,7 @@ void OperatorWindow::ApplyOnTop() {
   flags.setFlag(Qt::WindowStaysOnTopHint, form_.OnTop);
   Widget().overrideWindowFlags(flags);  // setWindowFlags would take a window that stands off the screen
   if (QWindow* window = Widget().windowHandle()) window->setFlags(flags);
+  if (form_.OnTop) Widget().raise();
 }
 
 void OperatorWindow::ShowAsTheFormSays() {

@@ -92,7 +92,10 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
     following_.push_back(measure->Changed.Subscribe([this] { placeIsDue_.start(0); }));
   }
   const auto title = [this] { window_->setTitle(QString::fromStdString(form_.Caption)); };
-  const auto onTop = [this] { window_->setFlag(Qt::WindowStaysOnTopHint, form_.OnTop); };
+  const auto onTop = [this] {
+    window_->setFlag(Qt::WindowStaysOnTopHint, form_.OnTop);
+    if (form_.OnTop) window_->raise();
+  };
   const auto visible = [this] {
     ApplyPlace();
     window_->create();
@@ -103,6 +106,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   following_.push_back(form.Caption.Changed.Subscribe(title));
   following_.push_back(form.OnTop.Changed.Subscribe(onTop));
   following_.push_back(form.Visible.Changed.Subscribe(visible));
+  following_.push_back(form.ShowAsked.Subscribe([this] { window_->raise(); }));
   title();
   onTop();
   visible();
