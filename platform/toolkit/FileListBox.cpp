@@ -12,8 +12,12 @@ FileListBox::FileListBox(Form& form, std::string name)
       Path("",
            [this](const std::string& folder) {
              if (Owner().Outside().files.Kind(folder) != FileKind::kFolder) throw Failure("Path not found: " + folder);
-             Path.Store(folder.size() > 1 && folder.back() == '/' ? folder.substr(0, folder.size() - 1) : folder);
-             Refresh();
+             const std::string bare =
+                 folder.size() > 1 && folder.back() == '/' ? folder.substr(0, folder.size() - 1) : folder;
+             if (bare != Path.Get()) indexIsOld_ = true;
+             Path.Store(bare);
+             Fill();
+             ItemsChanged.Raise();
            }),
       Pattern("",
               [this](const std::string& pattern) {
@@ -22,14 +26,20 @@ FileListBox::FileListBox(Form& form, std::string name)
               }),
       ListIndex(-1, [this](const int& index) {
         if (index != -1) List(index);
-        ListIndex.Store(index);
+        if (index == ListIndex && !indexIsOld_) return;
+        Take(index);
         if (index != -1) Handle("Click", [this] { Click.Raise(); });
       }) {}
 
 void FileListBox::Refresh() {
   Fill();
-  ListIndex.Store(-1);
+  Take(-1);
   ItemsChanged.Raise();
+}
+
+void FileListBox::Take(int index) {
+  indexIsOld_ = false;
+  ListIndex.Store(index);
 }
 
 void FileListBox::Fill() {
@@ -46,10 +56,14 @@ const std::string& FileListBox::List(int index) const {
   return files_[static_cast<std::size_t>(index)];
 }
 
-std::string FileListBox::FileName() const { return ListIndex < 0 ? "" : List(ListIndex); }
+std::string FileListBox::FileName() const { return ListIndex < 0 || ListIndex >= ListCount() ? "" : List(ListIndex); }
 
 std::string FileListBox::FilePath() const { return (Path.Get() == "/" ? "" : Path.Get()) + "/" + FileName(); }
 
 void FileListBox::Pick(int index) {
-  Handle("Click", [this, index] { ListIndex = index; });
+  Handle("Click", [this, index] {
+    List(index);  // fails for a row that is none
+    Take(index);
+    Click.Raise();
+  });
 }

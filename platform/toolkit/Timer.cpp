@@ -17,7 +17,7 @@ void Timer::Retire() {
 
 void Timer::Apply() {
   Scheduler& scheduler = Owner().Outside().scheduler;
-  const bool wanted = Enabled && !retired_;
+  const bool wanted = Enabled && !retired_ && interval_ > interval_.zero();
   if (wanted && running_ == 0) {
     running_ = scheduler.Start(interval_, phase_, [this] { Handle("Tick", [this] { Tick.Raise(); }); });
   } else if (!wanted && running_ != 0) {

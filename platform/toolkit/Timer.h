@@ -7,8 +7,8 @@
 #include "platform/toolkit/Component.h"
 #include "platform/toolkit/Property.h"
 
-// Ticks at its interval while enabled. Enabling an enabled timer changes nothing; ticks do not pile up; a tick may run
-// while an earlier one stands in a dialog.
+// Ticks at its interval while enabled; one whose interval is 0 never ticks. Enabling an enabled timer changes nothing;
+// ticks do not pile up; a tick may run while an earlier one stands in a dialog.
 class Timer : public Component {
  public:
   enum class Start { kDisabled, kEnabled };

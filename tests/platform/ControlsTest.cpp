@@ -174,21 +174,72 @@ TEST_F(ControlsTest, ASelectedFileIsNamedWithAndWithoutItsFolderAndARefreshSelec
   EXPECT_EQ(form.Files.FileName(), "b.mp4");
   EXPECT_EQ(form.Files.FilePath(), "/clips/b.mp4");
   EXPECT_EQ(clicks, 1);
-  form.Files.ListIndex = 1;  // the one that is selected: a click all the same
-  EXPECT_EQ(clicks, 2);
   form.Files.ListIndex = -1;
-  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(clicks, 1);
   form.Files.ListIndex = 0;
+  EXPECT_EQ(clicks, 2);
   EXPECT_EQ(items, 0);
   form.Files.Refresh();
   EXPECT_EQ(items, 1);
   EXPECT_EQ(form.Files.ListIndex.Get(), -1);
-  EXPECT_EQ(clicks, 3);
+  EXPECT_EQ(clicks, 2);
   form.Files.Pick(7);
   EXPECT_EQ(sim.trace.Take().back(), "box \"There is no such file in Files.\" \"Corvanta 6.0\"");
   form.Files.Path = "/";
   form.Files.Pick(0);
   EXPECT_EQ(form.Files.FilePath(), "/root.mp4");
+}
+
+TEST_F(ControlsTest, SettingTheIndexThatIsSelectedRaisesNoClickButTheOperatorsClickOnItCounts) {
+  Clip("a.mp4");
+  Clip("b.mp4");
+  form.Files.Path = "/clips";
+  form.Files.ListIndex = 1;
+  const int& clicks = Count(form.Files.Click);
+  form.Files.ListIndex = 1;
+  EXPECT_EQ(clicks, 0);
+  form.Files.Pick(1);
+  EXPECT_EQ(clicks, 1);
+  form.Files.Path = "/clips";  // the folder that it shows
+  form.Files.ListIndex = 1;
+  EXPECT_EQ(clicks, 1);
+  form.Files.Refresh();
+  form.Files.ListIndex = 1;
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ControlsTest, AChangeOfFolderKeepsTheNumberOfTheRowAndTheNextSettingOfTheIndexRaisesTheClick) {
+  for (const char* name : {"a.mp4", "b.mp4", "c.mp4"}) Clip(name);
+  sim.files.Put("/other/B.mp4", "media");
+  sim.files.Put("/other/a.mp4", "media");
+  form.Files.Path = "/clips";
+  form.Files.ListIndex = 1;
+  const int& clicks = Count(form.Files.Click);
+  form.Files.Path = "/other";
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(form.Files.ListIndex.Get(), 1);
+  EXPECT_EQ(form.Files.FilePath(), "/other/B.mp4");
+  form.Files.ListIndex = 1;
+  EXPECT_EQ(clicks, 1);
+  form.Files.ListIndex = 1;
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ControlsTest, ARowBeyondTheNewFoldersListKeepsItsNumberAndNamesNoFile) {
+  for (const char* name : {"a.mp4", "b.mp4", "c.mp4"}) Clip(name);
+  sim.files.Put("/other/a.mp4", "media");
+  form.Files.Path = "/clips";
+  form.Files.ListIndex = 2;
+  const int& clicks = Count(form.Files.Click);
+  form.Files.Path = "/other";
+  EXPECT_EQ(form.Files.ListIndex.Get(), 2);
+  EXPECT_EQ(form.Files.FileName(), "");
+  EXPECT_EQ(form.Files.FilePath(), "/other/");
+  EXPECT_THROW(form.Files.ListIndex = 2, Failure);
+  form.Files.Path = "/clips";
+  EXPECT_EQ(form.Files.FileName(), "c.mp4");
+  form.Files.ListIndex = 2;
+  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(ControlsTest, APatternIsAListThatMayBeEmptyOrHoldBlanks) {

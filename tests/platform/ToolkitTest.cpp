@@ -19,6 +19,7 @@ class frmProbe : public Form {
   ~frmProbe() override { --alive; }
 
   Timer Tick{*this, "Tick", 1s, Timer::kDisabled};
+  Timer Never{*this, "Never", 0ms, Timer::kEnabled};
   CommandButton Button{*this, "Button"};
   inline static int alive = 0;
   std::function<void(frmProbe&)> onTick = [](frmProbe&) {};
@@ -119,6 +120,14 @@ TEST_F(ToolkitTest, APressOnTheFormIsToldWithItsButton) {
   Probe().MouseDown.Connect([&](const MousePlace& place) { pressed.push_back(place.buttons); });
   Probe().PressMouse({.buttons = static_cast<int>(MouseButton::kRight)});
   EXPECT_EQ(pressed, std::vector<int>{static_cast<int>(MouseButton::kRight)});
+}
+
+TEST_F(ToolkitTest, ATimerOfIntervalZeroNeverTicks) {
+  int ticks = 0;
+  Probe().Never.Tick.Connect([&] { ++ticks; });
+  Advance(1h);
+  EXPECT_EQ(ticks, 0);
+  EXPECT_TRUE(Probe().Never.Enabled);
 }
 
 TEST_F(ToolkitTest, ADisabledTimerTicksNoMoreAndBeginsAnewWhenItIsEnabled) {

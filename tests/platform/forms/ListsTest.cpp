@@ -176,4 +176,20 @@ TEST_F(ListsTest, AFolderThatIsReadAgainShowsItsNewFilesWithNothingSelected) {
   EXPECT_EQ(Names().currentIndex().row(), 3);
 }
 
+TEST_F(ListsTest, AnotherFolderIsShownWithTheRowOfTheSameNumberAndAClickOnItCounts) {
+  FillFiles();
+  Click(Names(), 1);
+  sim.files.Put("/other/x.avi", "");
+  sim.files.Put("/other/y.avi", "");
+  form.files.Path = "/other";
+  EXPECT_EQ(Names().currentIndex().row(), 1);
+  EXPECT_EQ(heard, std::vector<int>{1});
+  Click(Names(), 1);
+  EXPECT_EQ(heard, (std::vector<int>{1, 1}));
+  sim.files.RemoveTree("/other");
+  sim.files.Put("/short/z.avi", "");
+  form.files.Path = "/short";
+  EXPECT_FALSE(Names().currentIndex().isValid());
+}
+
 }  // namespace
