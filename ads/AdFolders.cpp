@@ -66,7 +66,7 @@ void Load(Station& station, AdStore store, const std::string& folder, ListView& 
   const std::string selected = list.SelectedItem() > 0 ? list.Selected().text : "";
   list.Clear();
   for (const std::string& name : station.world.files.List(folder, FileKind::kFolder)) {
-    if (!IsAdName(name)) continue;
+    if (!IsPlainName(name)) continue;
     list.Add(RowOf(station, Of(store), name));
     if (name == selected && list.SelectedItem() == 0) list.Select(list.Count());
     station.world.scheduler.Yield();
@@ -75,7 +75,7 @@ void Load(Station& station, AdStore store, const std::string& folder, ListView& 
 
 bool Create(Station& station, AdStore store, const std::string& name) {
   // The folders that dots mean are there.
-  if (!IsAdName(name)) return name.find_first_not_of('.') == std::string::npos;
+  if (!IsPlainName(name)) return name.find_first_not_of('.') == std::string::npos;
   Files& files = station.world.files;
   const std::string folder = AdPath(station, store, name);
   if (files.Kind(folder) == FileKind::kFolder) return true;
@@ -99,10 +99,6 @@ void SettleIfUnfinished(Station& station, const std::string& name) {
 
 }  // namespace
 
-bool IsAdName(std::string_view name) {
-  return name.find_first_of("\\/") == std::string_view::npos && name.find_first_not_of('.') != std::string_view::npos;
-}
-
 std::string AdPath(const Station& station, AdStore store, std::string_view name, std::string_view tail) {
   return station.dataFolder.Path(std::string(Of(store).folder).append(name).append(tail));
 }
@@ -122,10 +118,10 @@ bool CreateVideoAdFolder(Station& station, const std::string& name) { return Cre
 void SettleUnfinishedVideoAds(Station& station) {
   const std::string store = station.dataFolder.Path(Of(AdStore::kVideo).folder);
   for (const std::string& name : station.world.files.List(store, FileKind::kFolder)) {
-    if (IsAdName(name)) SettleIfUnfinished(station, name);
+    if (IsPlainName(name)) SettleIfUnfinished(station, name);
   }
 }
 
 void DeleteAdFolder(Station& station, AdStore store, const std::string& name) {
-  if (IsAdName(name)) DeleteFolderTree(station.world.files, AdPath(station, store, name));
+  if (IsPlainName(name)) DeleteFolderTree(station.world.files, AdPath(station, store, name));
 }

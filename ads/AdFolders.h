@@ -10,12 +10,8 @@ class Station;
 // identity, and there is no other index: what stands in the folder is the list.
 enum class AdStore { kCrawler, kVideo };
 
-// Whether an ad can have that name: not one that is empty, holds a separator or consists of dots, since its path would
-// lead out of the store.
-bool IsAdName(std::string_view name);
-
 // The path behind a tail inside the ad's folder, such as "\\scorl.jpg"; the folder itself for the empty tail. `name`
-// must be an ad's name.
+// must be a plain name.
 std::string AdPath(const Station& station, AdStore store, std::string_view name, std::string_view tail = "");
 
 // Rebuilds the list from the sub folders of `folder`, a row each, by name without regard to case. The row that was
@@ -34,5 +30,5 @@ bool CreateVideoAdFolder(Station& station, const std::string& name);
 // description; one with nothing else in it is removed. Not for while one is being made.
 void SettleUnfinishedVideoAds(Station& station);
 
-// Removes the ad with all its files. What is no ad's name removes nothing.
+// Removes the ad with all its files. What is no plain name removes nothing.
 void DeleteAdFolder(Station& station, AdStore store, const std::string& name);

@@ -83,7 +83,7 @@ void frmAdSett::LoadAd_Click() {
     txtAdName.SetFocus();
     return;
   }
-  if (IsAdName(name)) {
+  if (IsPlainName(name)) {
     WriteAdInfo();
     // An ad that was not wanted to its end is none.
     if (!CopyAD()) DeleteAdFolder(station_, AdStore::kCrawler, name);

@@ -45,9 +45,9 @@ void frmVideoAdSett::vkCommand2_Click() {
     txtAdName.SetFocus();
     return;
   }
-  if (IsAdName(name)) {
+  if (IsPlainName(name)) {
     // A file's name that leads elsewhere is copied nowhere.
-    if (IsAdName(file) &&
+    if (IsPlainName(file) &&
         CopyFile(AdFile, AdPath(station_, AdStore::kVideo, name, "\\" + file)) == CopyResult::kCancelled) {
       DeleteAdFolder(station_, AdStore::kVideo, name);
       return;

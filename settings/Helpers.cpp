@@ -67,6 +67,11 @@ std::string FileNameOfPath(std::string_view path) {
 
 std::string StripExtension(std::string_view name) { return std::string(TrimBlanks(name.substr(0, name.rfind('.')))); }
 
+bool IsPlainName(std::string_view name) {
+  return name.find_first_of(kSeparators) == std::string_view::npos &&
+         name.find_first_not_of('.') != std::string_view::npos;
+}
+
 std::int32_t RandomBetween(std::int32_t low, std::int32_t count, const Clock& clock) {
   const double uniform = static_cast<double>(Seed(clock) >> 11) * 0x1p-53;  // from 0 up to 1
   return low + static_cast<std::int32_t>(std::floor(uniform * count));

@@ -24,6 +24,10 @@ std::string FileNameOfPath(std::string_view path);
 // The name up to its last ".", without blanks at both ends: "My clip.final.avi" gives "My clip.final".
 std::string StripExtension(std::string_view name);
 
+// Whether a file or folder can have that name: not one that is empty, holds a separator or consists of dots, since its
+// path would lead out of its folder.
+bool IsPlainName(std::string_view name);
+
 // A random whole number from `low` to `low + count - 1`, drawn anew from the clock at each call: two calls at the same
 // moment give the same number. `low` when `count` is 0.
 std::int32_t RandomBetween(std::int32_t low, std::int32_t count, const Clock& clock);

@@ -33,6 +33,13 @@ TEST(HelpersTest, TheExtensionIsWhatFollowsTheLastDot) {
   EXPECT_EQ(StripExtension(""), "");
 }
 
+TEST(HelpersTest, APlainNameHoldsNoSeparatorAndIsNotDotsAlone) {
+  for (const char* name : {"a", " ", "a.b", ".hidden", "50%", "[x]", "caf\xC3\xA9", "...a"}) {
+    EXPECT_TRUE(IsPlainName(name)) << name;
+  }
+  for (const char* name : {"", ".", "..", "...", "a/b", "a\\b", "/", "../up"}) EXPECT_FALSE(IsPlainName(name)) << name;
+}
+
 TEST(HelpersTest, AnEmptyFileIsMadeAndAnExistingOneIsEmptied) {
   SimFiles files;
   files.CreateFolder("/Playlist");
