@@ -62,6 +62,10 @@ void McListBox::SetFilter(const std::string& filter) {
 void McListBox::Refill() {
   Fill();
   RedrawIfAuto();
+  ScrollUp();
+}
+
+void McListBox::ScrollUp() {
   if (!rows_.empty()) RowWanted.Raise(0);
 }
 
@@ -135,6 +139,7 @@ void McListBox::Clear() {
 void McListBox::Refresh() {
   if (Mode != kItems) Fill();
   Redraw.Raise();
+  if (Mode != kItems) ScrollUp();
 }
 
 // Each record goes before the first sorted one that it compares with as the order says, or to the end. The selection

@@ -85,6 +85,7 @@ class McListBox : public DrawnList {
   void SetPath(const std::string& path);
   void SetFilter(const std::string& filter);
   void Refill();
+  void ScrollUp();
   void Fill();
   void AddEntries(FileKind kind, std::string_view pattern);
   void Sort();

@@ -8,6 +8,7 @@ MEMBER = re.compile(r'\b([A-Z]\w+)\s+\w+\{\s*[\w*]+,\s*"(\w+)"')
 # Members of an array are handed the same, one by one: `MenuItem mnuSWF[2]{{*this, "mnuSWF_0"}, {*this, "mnuSWF_1"}}`.
 ARRAY = re.compile(r'\b[A-Z]\w+\s+\w+\[\d+\]\{(.*?)\};', re.DOTALL)
 OF_ARRAY = re.compile(r'\{\s*[\w*]+,\s*"(\w+)"')
+BASE = re.compile(r'\bclass\s+\w+(?:\s+final)?\s*:\s*public\s+(\w+)')
 UNSEEN = {"Timer", "TrayIcon", "ImageList", "FormExtender"}
 # Widgets that only serve the layout: by name, and menus, which hold entries and do nothing themselves.
 LAYOUT_ONLY = re.compile(r"lay")
@@ -21,7 +22,7 @@ def check(tree):
         if header not in tree.files:
             problems.append(f"{path} has no {header.name} beside it: a form is .h, .cpp and .ui")
             continue
-        declared = tree.read(header)
+        declared = with_base(tree, header)
         controls = {name for kind, name in MEMBER.findall(declared) if kind not in UNSEEN}
         controls |= {name for array in ARRAY.findall(declared) for name in OF_ARRAY.findall(array)}
         widgets = widget_names(tree.root / path)
@@ -30,6 +31,13 @@ def check(tree):
         for name in sorted(widgets - controls - widget_names(tree.root / path, HOLDERS)):
             problems.append(f"{header} has no control {name}, a widget of {path.name}; call mere layout lay{name}")
     return problems
+
+
+def with_base(tree, header):
+    """The text of a form's header, and of the one beside it that holds the design that the form is one of."""
+    text = tree.read(header)
+    bases = (header.with_name(f"{name}.h") for name in BASE.findall(text))
+    return "\n".join([text, *(tree.read(base) for base in bases if base in tree.files)])
 
 
 def widget_names(path, kinds=None):

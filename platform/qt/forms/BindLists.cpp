@@ -4,6 +4,8 @@
 #include <QSignalBlocker>
 #include <memory>
 
+#include "platform/qt/forms/Bindings.h"
+#include "platform/qt/forms/DrawnPaint.h"
 #include "platform/qt/forms/NameModel.h"
 #include "platform/qt/forms/RowModel.h"
 #include "platform/qt/forms/look/Icons.h"
@@ -115,4 +117,22 @@ void Bind(Joint& joint, FileListBox& control, NameView& widget, const Surfaces&)
   joint.Follow(control.ListIndex.Changed, show);
   joint.On(&widget, &NameView::picked, [&control](int row) { control.Pick(row); });
   joint.On(&widget, &NameView::strayed, show);
+}
+
+void Bind(Joint& joint, DrawnList& control, DrawnView& widget, const Surfaces& surfaces) {
+  auto* model = new DrawnModel(&widget);
+  widget.setItemDelegate(new DrawnDelegate(control, Icons(widget), &widget));
+  widget.Draw(control, *model, surfaces.pictures);
+  joint.AtEnd([&widget] { widget.Forget(); });
+  joint.Follow(control.Redraw, [&control, &widget, model] {
+    model->Take(control.Rows());
+    widget.setCurrentIndex(model->index(control.CurrentRow()));
+  });
+  joint.Watch(control.LookChanged, [&widget] { widget.TakeLook(); });
+  joint.Watch(control.ImageList.Changed, [&widget] { widget.viewport()->update(); });
+  joint.Watch(control.RowWanted, [&widget, model](int row) { widget.scrollTo(model->index(row)); });
+  joint.On(&widget, &DrawnView::pressedRow, [&control](int row, DrawnList::Held held) { control.PressRow(row, held); });
+  joint.On(&widget, &DrawnView::keyed,
+           [&control, &widget](DrawnList::Key key) { control.PressKey(key, widget.RowsOnPage()); });
+  joint.On(&widget, &DrawnView::clickedRows, [&control] { control.ClickRows(); });
 }

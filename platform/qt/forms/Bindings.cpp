@@ -40,6 +40,7 @@ constexpr Binding kBindings[] = {
     Row<PlayerControl, QWidget>("PlayerControl"),
     Row<FileListBox, NameView>("FileListBox"),
     Row<ListView, RowView>("ListView"),
+    Row<DrawnList, DrawnView>("DrawnList"),
 };
 
 }  // namespace

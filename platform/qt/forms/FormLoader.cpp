@@ -4,6 +4,7 @@
 #include <QUiLoader>
 #include <QWidget>
 
+#include "platform/qt/forms/DrawnView.h"
 #include "platform/qt/forms/NameView.h"
 #include "platform/qt/forms/RowView.h"
 #include "platform/qt/forms/SeekSlider.h"
@@ -24,6 +25,7 @@ class Loader : public QUiLoader {
   static QWidget* Own(const QString& className, QWidget* parent) {
     if (className == "QTreeView") return new RowView(parent);
     if (className == "QListView") return new NameView(parent);
+    if (className == "QListWidget") return new DrawnView(parent);
     if (className == "QLineEdit") return new PathField(parent);
     if (className == "QSlider") return new SeekSlider(parent);
     return nullptr;

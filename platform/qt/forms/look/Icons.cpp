@@ -112,6 +112,12 @@ constexpr FileRow kFiles[] = {
     {"", "video-x-generic"},  // what is left plays as a video
 };
 
+struct PlaceRow {
+  Place place;
+  const char* icon;
+};
+constexpr PlaceRow kPlaces[] = {{Place::kFolder, "folder"}, {Place::kDrive, "drive-harddisk"}};
+
 struct BoxRow {
   QStyle::StandardPixmap meaning;
   const char* icon;
@@ -168,6 +174,8 @@ QIcon FileIcon(const QString& file) {
   });
   return icons[static_cast<std::size_t>(row - std::begin(kFiles))];
 }
+
+QIcon PlaceIcon(Place place) { return KeptIcon(std::ranges::find(kPlaces, place, &PlaceRow::place)->icon); }
 
 QIcon BoxIcon(QStyle::StandardPixmap meaning) {
   const auto row = std::ranges::find(kBoxes, meaning, &BoxRow::meaning);

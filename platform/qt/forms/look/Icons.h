@@ -19,5 +19,8 @@ QIcon KeptIcon(const QString& name);
 QIcon IconOf(const QString& form, const QString& control);
 // The icon of a file, by its ending.
 QIcon FileIcon(const QString& file);
+// The icon of a place that holds files.
+enum class Place { kFolder, kDrive };
+QIcon PlaceIcon(Place place);
 // The icon that a box or its buttons bear; null where Qt's own stands.
 QIcon BoxIcon(QStyle::StandardPixmap meaning);
