@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -30,6 +31,17 @@ struct FileReading {
   std::unique_ptr<FileWatch> watch;  // null when nothing can be said: read again each time
 };
 
+// The first bytes of a file.
+struct FileStart {
+  enum Result {
+    kRead,
+    kNotOpened,  // nothing stands at the path, or it is no regular file, or may not be opened
+    kNotRead,    // it was opened, but the medium gives nothing of it
+  };
+  Result result = kNotOpened;
+  std::string bytes;
+};
+
 // The disk. Paths are UTF-8; every call takes them as Resolve does. No call throws; a failure is the return value.
 class Files {
  public:
@@ -53,6 +65,9 @@ class Files {
     if (reading.result != ReadResult::kRead) return std::nullopt;
     return std::move(reading.content);
   }
+
+  // Reads the first `count` bytes of a regular file, all of it where it is shorter, and lets go of it.
+  virtual FileStart ReadStart(const std::string& path, std::size_t count) const = 0;
 
   // Puts `content` in the place of the file in one step: a reader, a crash or a full disk sees the old file or the new
   // one, whole. The step is done when the call returns; flushing to the medium follows within a second elsewhere, in an

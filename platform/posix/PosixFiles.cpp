@@ -9,7 +9,6 @@
 #include <cerrno>
 
 #include "platform/CaseFold.h"
-#include "platform/posix/FileHandle.h"
 #include "platform/posix/Flusher.h"
 #include "platform/posix/MountedMedia.h"
 #include "platform/posix/PosixWatch.h"
@@ -52,14 +51,33 @@ FileKind PosixFiles::Kind(const std::string& path) const {
   return exists ? KindOf(status) : FileKind::kAbsent;
 }
 
-FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBytes) const {
+FileHandle PosixFiles::Open(const std::string& path) const {
   Recover(FolderOfPath(path));
   FileHandle file = OpenForReading(path);
-  if (!file.IsOpen() && errno == ENOENT) {
-    const std::string resolved = ResolvePath(path);
-    Recover(FolderOfPath(resolved));
-    file = OpenForReading(resolved);
+  if (file.IsOpen() || errno != ENOENT) return file;
+  const std::string resolved = ResolvePath(path);
+  Recover(FolderOfPath(resolved));
+  return OpenForReading(resolved);
+}
+
+FileStart PosixFiles::ReadStart(const std::string& path, std::size_t count) const {
+  const FileHandle file = Open(path);
+  struct stat status;
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  std::string bytes(count, '\0');
+  std::size_t filled = 0;
+  while (filled < count) {
+    const ssize_t got = ReadSome(file.Get(), bytes.data() + filled, count - filled);
+    if (got < 0) return {FileStart::kNotRead, {}};
+    if (got == 0) break;
+    filled += static_cast<std::size_t>(got);
   }
+  bytes.resize(filled);
+  return {FileStart::kRead, std::move(bytes)};
+}
+
+FileReading PosixFiles::ReadWatched(const std::string& path, std::uint64_t maxBytes) const {
+  FileHandle file = Open(path);
   FileReading reading;
   if (!file.IsOpen()) {
     reading.result = errno == ENOENT || errno == ENOTDIR ? ReadResult::kAbsent : ReadResult::kRefused;

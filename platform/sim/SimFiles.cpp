@@ -129,9 +129,20 @@ FileReading SimFiles::ReadWatched(const std::string& path, std::uint64_t maxByte
   const Entry* entry = Find(path);
   const FileFault fault = FaultOf(path);
   if (entry == nullptr || fault == FileFault::kMissing) return {ReadResult::kAbsent, {}, nullptr};
-  const bool isRefused = entry->isFolder || fault == FileFault::kUnreadable || entry->content.size() > maxBytes;
+  const bool isRefused = entry->isFolder || fault == FileFault::kUnreadable || fault == FileFault::kBroken ||
+                         entry->content.size() > maxBytes;
   if (isRefused) return {ReadResult::kRefused, {}, nullptr};
   return {ReadResult::kRead, entry->content, std::make_unique<SimWatch>(entry->version)};
+}
+
+FileStart SimFiles::ReadStart(const std::string& path, std::size_t count) const {
+  const Entry* entry = Find(path);
+  const FileFault fault = FaultOf(path);
+  const bool opens =
+      entry != nullptr && !entry->isFolder && fault != FileFault::kMissing && fault != FileFault::kUnreadable;
+  if (!opens) return {};
+  if (fault == FileFault::kBroken) return {FileStart::kNotRead, {}};
+  return {FileStart::kRead, entry->content.substr(0, count)};
 }
 
 bool SimFiles::Replace(const std::string& path, const std::string& content) {

@@ -13,7 +13,8 @@
 enum class FileFault {
   kNone,
   kMissing,       // as if nothing stood there; a write brings it back
-  kUnreadable,    // it is there, but cannot be read
+  kUnreadable,    // it is there, but may not be opened
+  kBroken,        // it can be opened, but nothing of it can be read
   kWriteRefused,  // it can be neither replaced nor removed
 };
 
@@ -26,6 +27,7 @@ class SimFiles : public Files {
   std::string Resolve(const std::string& path) const override;
   FileKind Kind(const std::string& path) const override;
   FileReading ReadWatched(const std::string& path, std::uint64_t maxBytes) const override;
+  FileStart ReadStart(const std::string& path, std::size_t count) const override;
   bool Replace(const std::string& path, const std::string& content) override;
   bool Remove(const std::string& path) override;
   bool RemoveTree(const std::string& path) override;

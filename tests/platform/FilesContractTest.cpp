@@ -54,6 +54,23 @@ TYPED_TEST(FilesContractTest, WhatIsWrittenIsReadWhole) {
   EXPECT_EQ(this->files.Read(this->At("a.ini")), "");
 }
 
+TYPED_TEST(FilesContractTest, TheStartOfAFileIsReadAsFarAsTheFileGoes) {
+  EXPECT_TRUE(this->files.Replace(this->At("Movie.swf"), std::string("FWS\0behind", 10)));
+  EXPECT_EQ(this->files.ReadStart(this->At("Movie.swf"), 5).bytes, std::string("FWS\0b", 5));
+  EXPECT_EQ(this->files.ReadStart(this->At("movie.SWF"), 100).bytes.size(), 10U);
+  EXPECT_TRUE(this->files.Replace(this->At("empty.swf"), ""));
+  const FileStart empty = this->files.ReadStart(this->At("empty.swf"), 5);
+  EXPECT_EQ(empty.result, FileStart::kRead);
+  EXPECT_EQ(empty.bytes, "");
+}
+
+TYPED_TEST(FilesContractTest, OnlyARegularFileThatIsThereHasAStart) {
+  this->files.CreateFolder(this->At("folder"));
+  for (const std::string& path : {std::string(), this->At("absent.swf"), this->At("folder"), this->At("a/b.swf")}) {
+    EXPECT_EQ(this->files.ReadStart(path, 5).result, FileStart::kNotOpened) << path;
+  }
+}
+
 TYPED_TEST(FilesContractTest, NamesWithDotsBlanksPercentSignsAndAnyScriptWork) {
   const std::string name = "..a b%20c 100% ünï новости 新闻.v1.ini";
   EXPECT_TRUE(this->files.Replace(this->At(name), "x"));

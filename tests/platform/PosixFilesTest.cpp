@@ -61,6 +61,20 @@ TEST_F(PosixFilesTest, TheNewestVersionOnTheMediumIsKeptUntilANewerOneIsThere) {
   EXPECT_EQ(kept, 1);
 }
 
+// The memory of this process is a regular file whose first page nobody can read.
+TEST_F(PosixFilesTest, AMediumThatGivesNothingIsToldFromAFileThatCannotBeOpened) {
+  EXPECT_EQ(PosixFiles().ReadStart("/proc/self/mem", 5).result, FileStart::kNotRead);
+}
+
+TEST_F(PosixFilesTest, AFileIsLetGoOfOnceItsStartIsRead) {
+  const PosixFiles files;
+  WriteByOther(At("a.swf"), "FWS and more");
+  const auto held = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}); };
+  const auto before = held();
+  EXPECT_EQ(files.ReadStart(At("a.swf"), 3).bytes, "FWS");
+  EXPECT_EQ(held(), before);
+}
+
 // The file as a power cut leaves it: its name already the new version's, its content not on the medium.
 void LeaveTorn(const std::string& folder, const std::string& torn) {
   WriteByOther(folder + "/a.ini", torn);
