@@ -2,7 +2,11 @@
 
 #include <string>
 
-enum class Buttons { kOk, kYesNo };
+enum class Buttons {
+  kOk,
+  kOkWarning,  // with an exclamation mark
+  kYesNo,
+};
 enum class Answer { kOk, kYes, kNo };
 enum class CopyResult {
   kCopied,

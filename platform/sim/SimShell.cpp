@@ -22,7 +22,7 @@ T TakeFirst(std::deque<T>& queue, T otherwise) {
 }  // namespace
 
 Answer SimDialogs::MsgBox(const std::string& text, const std::string& title, Buttons buttons) {
-  trace_.Add("box \"" + text + "\" \"" + title + "\"");
+  trace_.Add("box \"" + text + "\" \"" + title + "\"" + (buttons == Buttons::kOkWarning ? " warning" : ""));
   if (whileStanding) whileStanding();
   return TakeFirst(answers, buttons == Buttons::kYesNo ? Answer::kNo : Answer::kOk);
 }

@@ -74,6 +74,8 @@ class Form {
   // one.
   Answer MsgBox(const std::string& text, Buttons buttons = Buttons::kOk);
   Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title);
+  // See Forms::Warn.
+  void Warn(const std::string& text, const std::string& title) { forms_.Warn(text, title); }
   std::string InputBox(const std::string& prompt, const std::string& title);
   std::string BrowseFolder(const std::string& title, const std::string& start);
   std::string OpenFile(const std::string& title, const std::string& filter);

@@ -4,6 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include "platform/Dialogs.h"
+#include "platform/Scheduler.h"
 #include "platform/Windows.h"
 #include "platform/toolkit/Failure.h"
 #include "platform/toolkit/Form.h"
@@ -102,6 +104,16 @@ void Forms::Tell(const Form& form, const HandlerName& name, std::string_view fau
 void Forms::Report(Form& form, const std::string& failure) {
   const Standing standing(reportsStanding_, failure);
   if (standing.IsFirst()) form.MsgBox(failure);
+}
+
+// The answer may come when the station is gone.
+void Forms::Warn(const std::string& text, const std::string& title) {
+  if (!warningsStanding_->insert(text).second) return;
+  world_.scheduler.Post([this, text, title, kept = std::weak_ptr(warningsStanding_)] {
+    if (kept.expired()) return;
+    world_.dialogs.MsgBox(text, title, Buttons::kOkWarning);
+    if (const auto standing = kept.lock()) standing->erase(text);
+  });
 }
 
 void Forms::DestroyLeaving() {

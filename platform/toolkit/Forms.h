@@ -56,6 +56,10 @@ class Forms {
   // Runs a handler of `form`; see Form::Handle.
   void Dispatch(Form& form, const HandlerName& name, const std::function<void()>& handler);
 
+  // Puts a warning before the operator and goes on at once. While one stands, or is about to, none of the same words
+  // follows.
+  void Warn(const std::string& text, const std::string& title);
+
   World& Outside() const { return world_; }
   const std::string& StandardTitle() const { return standardTitle_; }
 
@@ -95,6 +99,7 @@ class Forms {
   std::list<Leaving> leaving_;
   std::map<std::type_index, std::vector<std::function<void(Form&)>>> hooks_;
   std::set<std::string> reportsStanding_;
+  std::shared_ptr<std::set<std::string>> warningsStanding_ = std::make_shared<std::set<std::string>>();
   FaultTeller faults_;
   int depth_ = 0;  // handlers that are running, one inside the other
 };

@@ -24,6 +24,7 @@ struct Colour {
 inline constexpr Colour kBlack{0, 0, 0};
 inline constexpr Colour kWhite{255, 255, 255};
 inline constexpr Colour kRed{255, 0, 0};
+inline constexpr Colour kButtonFace{240, 240, 240};  // of an opaque form that has no colour of its own
 
 struct PixelSize {
   int width = 0;

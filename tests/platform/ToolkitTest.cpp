@@ -309,6 +309,53 @@ TEST_F(ToolkitTest, AFailingStatementIsSkippedAndTheNextRuns) {
   EXPECT_EQ(reached, 2);
 }
 
+TEST_F(ToolkitTest, AWarningHoldsNothingUpAndTheSameWordsStandOnce) {
+  frmProbe& form = Probe();
+  sim.trace.Take();
+  form.Warn("Lost.", "Disk");
+  form.Warn("Lost.", "Disk");
+  form.Warn("Found.", "Disk");
+  EXPECT_EQ(sim.trace.Take(), Names());
+  sim.dialogs.whileStanding = [&] { form.Warn("Lost.", "Disk"); };
+  Advance(1s);
+  sim.dialogs.whileStanding = nullptr;
+  EXPECT_EQ(sim.trace.Take(), (Names{"box \"Lost.\" \"Disk\" warning", "box \"Found.\" \"Disk\" warning",
+                                     "box \"Lost.\" \"Disk\" warning"}))
+      << "the last one was asked for while other words stood";
+  Advance(1s);
+  form.Warn("Lost.", "Disk");
+  station.forms.Unload<frmProbe>();
+  Advance(1s);
+  EXPECT_EQ(sim.trace.Take().back(), "box \"Lost.\" \"Disk\" warning") << "the form may be gone by then";
+}
+
+TEST_F(ToolkitTest, OnTopActsAtEachAssignmentAndResizeTellsEachNewSize) {
+  frmProbe& form = Probe();
+  int told = 0, resized = 0;
+  form.OnTop.Changed.Connect([&] { ++told; });
+  form.Resize.Connect([&] { ++resized; });
+  form.OnTop = true;
+  form.OnTop = true;
+  EXPECT_EQ(told, 2);
+  form.Show();
+  form.Show();
+  EXPECT_EQ(resized, 1);
+  form.Width = 600;
+  form.Width = 600;
+  form.Left = 600;
+  EXPECT_EQ(resized, 2);
+}
+
+TEST_F(ToolkitTest, TheKeyColourIsInForceInALayeredFormAlone) {
+  frmProbe& form = Probe();
+  form.KeyColour = kRed;
+  EXPECT_EQ(form.KeyInForce(), std::nullopt);
+  form.ExtendedStyle = kLayered | 8;
+  EXPECT_EQ(form.KeyInForce(), kRed);
+  form.ExtendedStyle = 8;
+  EXPECT_EQ(form.KeyInForce(), std::nullopt);
+}
+
 TEST_F(ToolkitTest, ADisabledButtonDoesNothing) {
   int clicks = 0;
   Probe().Button.Click.Connect([&] { ++clicks; });

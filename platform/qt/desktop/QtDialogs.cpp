@@ -34,7 +34,8 @@ Answer QtDialogs::MsgBox(const std::string& text, const std::string& title, Butt
   box.setTextFormat(Qt::PlainText);
   box.setText(QString::fromStdString(text));
   const bool question = buttons == Buttons::kYesNo;
-  box.setIcon(question ? QMessageBox::Question : QMessageBox::Information);
+  const bool warning = buttons == Buttons::kOkWarning;
+  box.setIcon(question ? QMessageBox::Question : warning ? QMessageBox::Warning : QMessageBox::Information);
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);

@@ -51,6 +51,16 @@ TEST_F(DialogsTest, ABoxThatIsClosedWithoutAButtonIsAnsweredNoOrOk) {
   EXPECT_EQ(dialogs.MsgBox("Done", "Playlist", Buttons::kOk), Answer::kOk);
 }
 
+TEST_F(DialogsTest, AWarningHasAnExclamationMarkAndAnOkButtonAlone) {
+  Then([](QDialog& box) {
+    auto& shown = dynamic_cast<QMessageBox&>(box);
+    EXPECT_EQ(shown.icon(), QMessageBox::Warning);
+    EXPECT_EQ(shown.standardButtons(), QMessageBox::Ok);
+    shown.close();
+  });
+  EXPECT_EQ(dialogs.MsgBox("Lost.", "Disk", Buttons::kOkWarning), Answer::kOk);
+}
+
 TEST_F(DialogsTest, EnterAloneDeletesNothing) {
   Then([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
   EXPECT_EQ(dialogs.MsgBox("Delete?", "DELETE", Buttons::kYesNo), Answer::kNo);
