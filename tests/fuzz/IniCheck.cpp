@@ -1,20 +1,12 @@
 #include "tests/fuzz/IniCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "platform/CaseFold.h"
 #include "platform/Utf8.h"
 #include "settings/IniDocument.h"
 #include "settings/IniText.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
-
-void Require(bool holds, const char* promise) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", promise);
-  std::abort();
-}
 
 bool IsSame(const IniDocument& left, const IniDocument& right) {
   if (left.Text() != right.Text() || left.SectionCount() != right.SectionCount()) return false;

@@ -1,22 +1,14 @@
 #include "tests/fuzz/SwfCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "platform/swf/Bytes.h"
 #include "platform/swf/Container.h"
 #include "platform/swf/MakeReporting.h"
 #include "platform/swf/Tags.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
 
 constexpr std::size_t kMost = 1 << 22;
-
-void Require(bool holds, const char* promise) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", promise);
-  std::abort();
-}
 
 int FramesOf(const std::string& movie, std::size_t at) {
   int frames = 0;

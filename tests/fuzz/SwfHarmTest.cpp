@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/SwfCheck.h"
+#include "tests/fuzz/SwfHeaderCheck.h"
 #include "tests/platform/swf/MovieWriter.h"
 
 namespace {
@@ -23,6 +24,18 @@ TEST(SwfHarmTest, EveryHarmedMovieKeepsThePromises) {
         harmed[at] = harm;
         CheckSwf(harmed);
       }
+    }
+  }
+}
+
+TEST(SwfHarmTest, TheReaderOfHeadersKeepsItsPromisesOfEveryHarmedHeader) {
+  const std::string whole = Movies().front();
+  for (std::size_t at = 0; at < 24; ++at) {
+    CheckSwfHeader(whole.substr(0, at));
+    std::string harmed = whole;
+    for (int harm = 0; harm < 256; ++harm) {
+      harmed[at] = static_cast<char>(harm);
+      CheckSwfHeader(harmed);
     }
   }
 }
