@@ -56,6 +56,10 @@ void IniFile::WriteValue(std::string_view section, std::string_view key, std::st
   if (Refresh()) Store(document_->WithValue(section, key, value));
 }
 
+void IniFile::Rewrite(const std::function<IniDocument(const IniDocument&)>& edit) {
+  if (Refresh()) Store(edit(*document_));
+}
+
 IniSections IniFile::Sections() {
   Refresh();
   return {*this, document_};

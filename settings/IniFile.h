@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -97,6 +98,9 @@ class IniFile {
   // Sets the value, adding the file, the section and the key as needed; the folder must exist. Done on disk when the
   // call returns. Always writes, also an unchanged value: the file's time is the station's sign of life.
   void WriteValue(std::string_view section, std::string_view key, std::string_view value);
+  // Several edits in one step: what `edit` makes of the file as it stands takes its place. Nobody ever sees the one
+  // done and the other not.
+  void Rewrite(const std::function<IniDocument(const IniDocument&)>& edit);
 
   IniSections Sections();
 

@@ -51,6 +51,32 @@ TEST_F(IniFileTest, AWriteIntoAMissingFolderLosesTheValueWithoutAWord) {
   EXPECT_EQ(Read("Output", "Show"), "default");
 }
 
+TEST_F(IniFileTest, SeveralEditsInOneStepAreAllThereOrNone) {
+  const auto exchange = [this] {
+    ini.Rewrite([](const IniDocument& file) {
+      return file.WithValue("1", "Text", "second").WithValue("2", "Text", "first").WithoutSection(2);
+    });
+  };
+  const std::string before = "[1]\r\nText=first\r\n[2]\r\nText=second\r\n[3]\r\n";
+  files.Put(kPath, before);
+  files.SetDiskFull(true);
+  exchange();
+  EXPECT_EQ(Content(), before);
+  EXPECT_EQ(Read("1", "Text"), "first");
+  files.SetDiskFull(false);
+  exchange();
+  EXPECT_EQ(Content(), "[1]\r\nText=second\r\n[2]\r\nText=first\r\n");
+  EXPECT_EQ(Read("2", "Text"), "first");
+}
+
+TEST_F(IniFileTest, EditsOfAFileThatCannotBeReadAreLost) {
+  files.Put(kPath, "[1]\r\nText=first\r\n");
+  files.SetFault(kPath, FileFault::kUnreadable);
+  ini.Rewrite([](const IniDocument&) { return IniDocument("[2]\r\n"); });
+  files.SetFault(kPath, FileFault::kNone);
+  EXPECT_EQ(Content(), "[1]\r\nText=first\r\n");
+}
+
 TEST_F(IniFileTest, SectionsAndKeysAreFoundWhateverTheirCase) {
   ini.WriteValue("Logo", "Width", "300");
   EXPECT_EQ(Read("logo", "WIDTH"), "300");
