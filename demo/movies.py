@@ -152,7 +152,7 @@ def push(*values):
 
 ADD, MULTIPLY, LESS, NOT = action(0x47), action(0x0C), action(0x48), action(0x12)
 GET, SET, SET_MEMBER = action(0x1C), action(0x1D), action(0x4F)
-NEW_OBJECT, CALL_METHOD, STOP = action(0x40), action(0x52), action(0x07)
+NEW_OBJECT, CALL_METHOD, PLAY, STOP = action(0x40), action(0x52), action(0x06), action(0x07)
 # A jump to itself.
 ENDLESS = action(0x99, struct.pack("<h", -5))
 
@@ -285,14 +285,33 @@ def cap(colour):
     return moving(150, 150, 25, 50, parts, [(1, lambda k: matrix(75, 75)), (2, lambda k: matrix(75, 75, TURN * k / 50))])
 
 
-def breaking_news(seconds=12):
-    """The strip: its line is the variable `text1` of its root, which moves through once a loop."""
-    frames = 25 * seconds
-    parts = box(1, 0, 0, 1920, 60, (150, 10, 20, 255)) + box(2, 0, 0, 260, 60, (90, 0, 10, 255)) + font(3)
-    parts += text(4, 3, 240, 46, 30, WHITE, "BREAKING") + text(5, 3, 1800, 46, 32, WHITE, "", "text1", LEFT)
-    return moving(1920, 60, 25, frames, parts, [
-        (1, still), (5, lambda k: matrix(280 + 1640 * max(0, 1 - k / 100), 8)), (2, still), (4, lambda k: matrix(10, 8))],
-        background=(150, 10, 20))
+def breaking_news(width=1030, height=60, rate=25, hold=75, speed=5, longest=8000):
+    """The strip: its line is the variable `text1` of its root. It comes in from the right, stands, and passes to the left
+    until it has gone: `text1_width`, which the station's page sets with each text, is its width in pixels. Without that
+    it passes as far as the longest one. The last frames show no text: there the next one is asked for."""
+    label, begin, enter, end = 170, 186, 25, 12
+    size = round(height * 0.52)
+    characters = box(1, 0, 0, width, height, (150, 10, 20, 255)) + box(2, 0, 0, label, height, (90, 0, 10, 255)) + font(3)
+    characters += text(4, 3, label, size + 12, height * 0.43, WHITE, "BREAKING")
+    characters += text(5, 3, longest, size + 16, size, WHITE, "", "text1", LEFT)
+    top = (height - size - 12) / 2
+    places = [width - (width - begin) * math.sin(math.pi / 2 * frame / enter) for frame in range(enter)]
+    places += [begin] * hold
+    last = len(places) + math.ceil((longest + begin - label) / speed)
+    tags = characters + place(1, 1) + place(5, 2, matrix(places[0], top)) + place(2, 3)
+    tags += place(4, 4, matrix(0, (height - size - 2) / 2 + 2)) + SHOW
+    for x in places[1:]:
+        tags += move(2, matrix(x, top)) + SHOW
+    to_the_end = action(0x81, struct.pack("<H", last)) + PLAY
+    for frame in range(len(places), last):
+        passed = (frame - len(places) + 1) * speed
+        # Where letters end is known to within a few pixels.
+        has_gone = variable("text1_width") + push(passed - begin + label - size) + LESS
+        tags += actions(has_gone + NOT + action(0x9D, struct.pack("<h", len(to_the_end))) + to_the_end)
+        tags += move(2, matrix(begin - passed, top)) + SHOW
+    # The line stays on the stage, out of sight: one that were placed anew would have lost its text.
+    tags += move(2, matrix(0, 2 * height)) + SHOW * end
+    return movie(width, height, rate, last + end, tags, background=(150, 10, 20))
 
 
 def plain(colour, frames=50, rate=25, width=320, height=180, **more):

@@ -200,6 +200,19 @@ TEST_F(RuffleTest, TextsThatThePlayerCannotJoinAreDrawnInTheFieldsPlace) {
   }
 }
 
+TEST_F(RuffleTest, AMovieIsToldHowWideTheTextOfItsFieldIs) {
+  const auto seen = Opaque({300, 120});
+  // Blanks show nothing, and are as wide as they are; the second field shows what is told of the first.
+  const std::string fields = TextField(5, "text1") + TextField(6, "text1_width") + Place(5, 1) + Place(6, 2);
+  seen->surface->Put(File("width.swf", Background(0, 0, 64) + fields + Shows(2), {.width = 100, .height = 40}));
+  int before = 0;
+  for (const int blanks : {1, 12, 120}) {
+    seen->surface->SetVariable("text1", std::string(static_cast<std::size_t>(blanks), ' '));
+    EXPECT_TRUE(Until([&] { return seen->Marks() > before; })) << "a digit more for " << blanks;
+    before = seen->Marks() + 40;
+  }
+}
+
 TEST_F(RuffleTest, AMovieThatStopsTellsNoMoreFrames) {
   Seen seen(world.world.flash, {60, 60});
   seen.surface->Put(File("stops.swf", Show() + Show() + Stop() + Shows(5)));

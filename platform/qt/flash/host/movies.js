@@ -106,6 +106,7 @@ const movies = (() => {
     } else {
       callSurely(movie, TRIES, 'set', path, value);
     }
+    if (field) callSurely(movie, TRIES, 'set', path + '_width', String(texts.width(value, field.looks)));
     if (!field || (!isDrawn && !movie.drawn.has(root))) return;
     const address = isDrawn ? await texts.draw(value, field.looks) : '';
     if (movie.gone || movie.orders.get(root) !== order) return texts.forget(address);

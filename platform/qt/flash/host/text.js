@@ -7,6 +7,7 @@ const texts = (() => {
   const TWIPS = 20;
   const LARGEST = 8192;
   let count = 0;
+  let measuring = null;
 
   function colour(looks) {
     const parts = [24, 16, 8].map(shift => (looks.colour >>> shift) & 255);
@@ -32,8 +33,19 @@ const texts = (() => {
     return all;
   }
 
+  function setFont(context, looks) {
+    context.font = `${looks.fontHeight / TWIPS}px sans-serif`;
+  }
+
   return {
     isPlain: text => PLAIN.test(text),
+
+    // How far the text reaches in one line, in pixels.
+    width(text, looks) {
+      measuring = measuring || document.createElement('canvas').getContext('2d');
+      setFont(measuring, looks);
+      return Math.ceil(measuring.measureText(text).width);
+    },
 
     // The address under which `fetch` answers with the picture: as large as the field, its left top corner there.
     async draw(text, looks) {
@@ -44,7 +56,7 @@ const texts = (() => {
       canvas.height = Math.min(LARGEST, Math.max(1, Math.ceil(bottom)));
       const context = canvas.getContext('2d');
       const size = looks.fontHeight / TWIPS;
-      context.font = `${size}px sans-serif`;
+      setFont(context, looks);
       context.fillStyle = colour(looks);
       context.textBaseline = 'alphabetic';
       const left = (looks.left + looks.leftMargin) / TWIPS + 2;
