@@ -37,6 +37,9 @@ class frmMid : public Form {
   MenuItem mnuAdSettings{*this, "mnuAdSettings"};
   MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
   MenuItem mnuVideoAdSettings{*this, "mnuVideoAdSettings"};
+  MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
+  MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
+  MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};
   MenuItem mnuOutput{*this, "mnuOutput"};
   MenuItem mnuOutputWindow{*this, "mnuOutputWindow"};
   MenuItem mnuMonitor2{*this, "mnuMonitor2"};
@@ -74,6 +77,7 @@ class frmMid : public Form {
   bool LogoShown = false;
   bool ClockShown = false;
   bool StikerShown = false;
+  bool BreakingNewsShown = false;  // off after a start with the strip on
   bool WebFeedShown = false;
   bool MaskingOn = false;  // not kept: always off after a start; outlives an output window that is made anew
 
@@ -103,12 +107,14 @@ class frmMid : public Form {
   void WhenOnline(const std::function<void()>& work);
   void ShowCrawler(bool show);
   void RunVideoAds(bool run);
+  void ShowBreakingNews(bool show);
   void ShowOutput(bool show);
   void mnuMasking_Click();
 
   bool ShowKeySays(const std::string& section, const std::string& key = "Show");
   void RestoreMonitor();
   void RestoreOutput();
+  void RestoreBreakingNews();
   void RestoreCrawler();
   void RestoreLeftSideAd();
   void RestoreVideoAd();

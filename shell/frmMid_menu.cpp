@@ -3,6 +3,8 @@
 #include "ads/frmAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
+#include "overlay/frmBreakingNews.h"
+#include "overlay/frmBreakingNewsSett.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
@@ -53,6 +55,8 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
       {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
       {nullptr, &frmMid::LogoShown, "logo", "Show", nullptr, 7, "Show logo ", Lamp::kOnAir},
       {nullptr, &frmMid::StikerShown, "Stiker", "Show", nullptr, 8, "Show Stiker ", Lamp::kOnAir},
+      {&frmMid::mnuBreakingNewsShow, &frmMid::BreakingNewsShown, "BreakingNews", "Show", &frmMid::ShowBreakingNews, 0,
+       "", Lamp::kNone},
       {&frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show", &frmMid::ShowOutput, 0, "", Lamp::kNone},
       {&frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2", nullptr, 0, "", Lamp::kNone},
   };
@@ -72,6 +76,7 @@ void frmMid::ConnectMenu() {
       {mnuPlayList, ShowForm<frmPlaylist>},
       {mnuScorlAsSettings, ShowForm<frmAdSett>},
       {mnuVideoAdSettings, ShowForm<frmVideoAdSett>},
+      {mnuBreakingNewsSettings, ShowForm<frmBreakingNewsSett>},
       {mnuAbout2, ShowForm<frmAbout>},
       {mnuTrayAbout, ShowForm<frmAbout>},
   };
@@ -155,6 +160,14 @@ void frmMid::ShowCrawler(bool show) {
 void frmMid::RunVideoAds(bool run) {
   station_.forms.Get<frmVideoAdSett>().Timer1.Enabled = run;
   if (!run) station_.forms.Unload<frmVideoAdSett>();
+}
+
+void frmMid::ShowBreakingNews(bool show) {
+  if (show) {
+    station_.forms.Get<frmBreakingNews>().Show();
+  } else {
+    station_.forms.Unload<frmBreakingNews>();
+  }
 }
 
 void frmMid::ShowOutput(bool show) {

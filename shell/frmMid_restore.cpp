@@ -3,6 +3,7 @@
 #include "ads/frmAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
+#include "overlay/frmBreakingNews.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
@@ -10,9 +11,9 @@
 #include "shell/frmMid.h"
 
 void frmMid::LoadSett() {
-  SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreOutput(); }, [this] { RestoreCrawler(); },
-                   [this] { RestoreLeftSideAd(); }, [this] { RestoreVideoAd(); }, [this] { RestorePlaylist(); },
-                   [this] { RestoreDesktop(); });
+  SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreOutput(); }, [this] { RestoreBreakingNews(); },
+                   [this] { RestoreCrawler(); }, [this] { RestoreLeftSideAd(); }, [this] { RestoreVideoAd(); },
+                   [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
 }
 
 bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
@@ -33,6 +34,15 @@ void frmMid::MoveTo() { station_.forms.Get<frmPlayer>().MoveTo(OnMonitor2 ? 2 : 
 void frmMid::RestoreOutput() {
   Mark(&frmMid::OutputShown, ShowKeySays("Output"));
   if (OutputShown) station_.forms.Get<frmPlayer>().Show();
+}
+
+// The entry is ticked and the flag stays off: the first use of the entry shows the strip again, and only the second one
+// takes it off the air. Meant so.
+void frmMid::RestoreBreakingNews() {
+  Mark(&frmMid::BreakingNewsShown, ShowKeySays("BreakingNews"));
+  if (!BreakingNewsShown) return;
+  BreakingNewsShown = false;
+  station_.forms.Get<frmBreakingNews>().Show();
 }
 
 void frmMid::RestoreCrawler() {
