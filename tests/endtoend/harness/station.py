@@ -102,6 +102,10 @@ class Station:
     def alive(self):
         return self._process is not None and self._process.poll() is None
 
+    @property
+    def pid(self):
+        return self._process.pid
+
     def exit_status(self):
         return self._process.poll()
 
