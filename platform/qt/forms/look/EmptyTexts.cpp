@@ -10,6 +10,8 @@ namespace {
 constexpr EmptyTextRow kTexts[] = {
     {"frmAdSett", "ListAd", "Choose a header and a scroll picture below, type a name and press \"Save\"."},
     {"frmBreakingNewsSett", "ListNews", "Write a headline below and press \"Add\"."},
+    {"frmLeftSideAdSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
+    {"frmLeftSideAdSett", "File", "Click a category, then press \"Browse\" and choose a movie."},
     {"frmPlaylist", "FilePlaylist", "Press \"Add new playlist\" to make the first one."},
     {"frmPlaylist", "ListPlay", "Choose a playlist, then select a file below and press \"Add\"."},
     {"frmPlaylist", "FileList", "Press \"Browse\" and choose a folder with videos."},
