@@ -34,9 +34,11 @@ class frmMid : public Form {
   MenuItem mnuShowHideAd{*this, "mnuShowHideAd"};
   MenuItem mnuShowCrawlersAd{*this, "mnuShowCrawlersAd"};
   MenuItem mnuShowVideoAd{*this, "mnuShowVideoAd"};
+  MenuItem mnuLeftsideAd{*this, "mnuLeftsideAd"};
   MenuItem mnuAdSettings{*this, "mnuAdSettings"};
   MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
   MenuItem mnuVideoAdSettings{*this, "mnuVideoAdSettings"};
+  MenuItem mnuLeftsideAdsettings{*this, "mnuLeftsideAdsettings"};
   MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
   MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
   MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};
@@ -108,6 +110,7 @@ class frmMid : public Form {
   void ShowCrawler(bool show);
   void RunVideoAds(bool run);
   void ShowBreakingNews(bool show);
+  void ShowLeftSideAd(bool show);
   void ShowOutput(bool show);
   void mnuMasking_Click();
 

@@ -1,6 +1,7 @@
 // The menu, the tray and the status bar. What can be switched on and off stands in one table, which the menu and the
 // status bar share.
 #include "ads/frmAdSett.h"
+#include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "overlay/frmBreakingNews.h"
@@ -50,6 +51,8 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
        Lamp::kOnAir},
       {&frmMid::mnuShowVideoAd, &frmMid::VideoAdShown, "VideoAd", "Show", &frmMid::RunVideoAds, 3, "Video Ad ",
        Lamp::kOn},
+      {&frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show", &frmMid::ShowLeftSideAd, 0, "",
+       Lamp::kNone},
       {nullptr, &frmMid::FlashAdShown, "FlashAd", "Show", nullptr, 4, "Flash Ad ", Lamp::kOnAir},
       {nullptr, &frmMid::ClockShown, "Clock", "Show", nullptr, 5, "Show clock ", Lamp::kOnAir},
       {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
@@ -77,6 +80,7 @@ void frmMid::ConnectMenu() {
       {mnuScorlAsSettings, ShowForm<frmAdSett>},
       {mnuVideoAdSettings, ShowForm<frmVideoAdSett>},
       {mnuBreakingNewsSettings, ShowForm<frmBreakingNewsSett>},
+      {mnuLeftsideAdsettings, ShowForm<frmLeftSideAdSett>},
       {mnuAbout2, ShowForm<frmAbout>},
       {mnuTrayAbout, ShowForm<frmAbout>},
   };
@@ -167,6 +171,23 @@ void frmMid::ShowBreakingNews(bool show) {
     station_.forms.Get<frmBreakingNews>().Show();
   } else {
     station_.forms.Unload<frmBreakingNews>();
+  }
+}
+
+// Switched off, the rotation goes on in the hidden column. Nothing has narrowed the programme, and nothing does. Meant
+// so.
+void frmMid::ShowLeftSideAd(bool show) {
+  auto& output = station_.forms.Get<frmPlayer>();
+  output.PicSide.Visible = show;
+  if (show) {
+    auto& ads = station_.forms.Get<frmLeftSideAdSett>();
+    ads.Show();
+    ads.Hide();
+    ads.TimerFlash.Enabled = true;
+    output.SideAd();
+  } else {
+    output.Player.Width = output.Width.Get();
+    output.Player.Left = 0;
   }
 }
 

@@ -1,6 +1,7 @@
 // The walk over Settings.ini that brings the station back on air. Its order is part of the design: the output window
 // exists, sized and hidden, from the first step.
 #include "ads/frmAdSett.h"
+#include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
 #include "overlay/frmBreakingNews.h"
@@ -53,15 +54,9 @@ void frmMid::RestoreCrawler() {
 }
 
 void frmMid::RestoreLeftSideAd() {
-  LeftSideAdShown = ShowKeySays("LeftSideAd");
-  auto& output = station_.forms.Get<frmPlayer>();
-  output.PicSide.Visible = LeftSideAdShown;
-  if (LeftSideAdShown) {
-    output.SideAd();
-  } else {
-    output.Player.Width = output.Width.Get();
-    output.Player.Left = 0;
-  }
+  Mark(&frmMid::LeftSideAdShown, ShowKeySays("LeftSideAd"));
+  ShowLeftSideAd(LeftSideAdShown);
+  if (!LeftSideAdShown) station_.forms.Unload<frmLeftSideAdSett>();
 }
 
 // The countdown goes on from where it stood. With the breaks off their form waits until it is needed.

@@ -1,5 +1,6 @@
 // The menu of the control window, entry by entry.
 #include "ads/frmAdSett.h"
+#include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "platform/toolkit/Failure.h"
 #include "shell/frmAbout.h"
@@ -22,6 +23,7 @@ constexpr ToggleRow kToggles[] = {
     {"mnuShowVideoAd", &frmMid::mnuShowVideoAd, &frmMid::VideoAdShown, "VideoAd", "Show"},
     {"mnuOutputWindow", &frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show"},
     {"mnuMonitor2", &frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2"},
+    {"mnuLeftsideAd", &frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show"},
 };
 
 constexpr char kExitBox[] = "box \"Are You Sure you wnat to EXIT from Corvanta 6.0?\" \"Exit\"";
@@ -291,6 +293,7 @@ TEST_F(MenuTest, EntriesOpenTheirFormsAndLeaveTheStationToItself) {
   opens(ControlWindow().mnuPlayList, Playlists());
   opens(ControlWindow().mnuScorlAsSettings, station.forms.Get<frmAdSett>());
   opens(ControlWindow().mnuVideoAdSettings, Breaks());
+  opens(ControlWindow().mnuLeftsideAdsettings, station.forms.Get<frmLeftSideAdSett>());
   opens(ControlWindow().mnuAbout2, station.forms.Get<frmAbout>());
 }
 
