@@ -30,9 +30,9 @@ class FlashSurface {
  public:
   virtual ~FlashSurface() = default;
 
-  // Starts the movie from its first frame, in place of what is shown, with the same path too. What is shown stays until
-  // the first picture of the new file is there; for ever, when the file is absent or damaged. The empty path shows
-  // nothing.
+  // Starts the movie from its first frame, in place of what is shown, with the same path too. What is shown stands
+  // still until the first picture of the new file is there; it stays for ever when the file is absent or damaged. The
+  // empty path shows nothing.
   virtual void Put(const std::string& path) = 0;
   // Of the movie put last, as its header tells; right as soon as Put returns. 0 for what is no movie.
   virtual int TotalFrames() const = 0;

@@ -172,6 +172,19 @@ TEST_F(RuffleTest, TheOldMovieStaysUntilTheNewOneIsThere) {
   EXPECT_TRUE(Until([&] { return seen->picture.isNull() || seen->picture.pixelColor(100, 50).alpha() == 0; }));
 }
 
+// What follows is cut off: it gives neither a first frame nor an error, and is given up after two seconds.
+TEST_F(RuffleTest, TheOldMovieStandsStillWhileTheNextOneComesAndGoesOnWhereNoneDoes) {
+  const auto seen = Opaque();
+  seen->surface->Put(File("changes.swf", Background(255, 0, 0) + Show() + Background(0, 255, 0) + Show()));
+  ASSERT_TRUE(Until([&] { return seen->pictures > 5; }));
+  seen->surface->Put(test_media::Text("cut.swf", Plain(Shows(20)).substr(0, 40)));
+  Pass(500ms);
+  const int pictures = seen->pictures;
+  Pass(500ms);
+  EXPECT_EQ(seen->pictures, pictures);
+  EXPECT_TRUE(Until([&] { return seen->pictures > pictures + 5; }));
+}
+
 TEST_F(RuffleTest, AVariableReachesTheTextOfAMovieOfEveryVersion) {
   for (const int version : {4, 5, 6, 7, 8, 9, 10}) {
     SCOPED_TRACE(version);

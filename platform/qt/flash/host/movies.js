@@ -48,9 +48,27 @@ const movies = (() => {
     if (movie.gone) return;
     tell('bad', movie.slot, movie.serial, why);
     const slot = slotOf(movie.slot);
-    if (slot.coming === movie) slot.coming = null;
+    if (slot.coming === movie) {
+      slot.coming = null;
+      goOn(slot.shown);
+    }
     if (slot.shown === movie) slot.shown = null;
     remove(movie);
+  }
+
+  // It is over when the next one is put: the picture that it shows then stands until the next one's first, and not the
+  // beginning of its next loop.
+  function hold(movie) {
+    if (!movie || movie.held) return;
+    movie.held = true;
+    movie.player.suspend();
+  }
+
+  function goOn(movie) {
+    if (!movie || !movie.held) return;
+    movie.held = false;
+    movie.heard = performance.now();
+    movie.player.resume();
   }
 
   function reached(movie, frame) {
@@ -132,7 +150,7 @@ const movies = (() => {
   // A movie whose scripts were turned off tells its frames no more. The helper knows where it stands, and where there is
   // none left either, the clock is the last resort.
   function lookAfter(movie, now) {
-    if (!movie.up || movie.gone || movie.frames < 2 || now - movie.heard < Math.max(2000 / movie.rate, 50)) return;
+    if (!movie.up || movie.gone || movie.held || movie.frames < 2 || now - movie.heard < Math.max(2000 / movie.rate, 50)) return;
     if (now - movie.looked < movie.pause) return;
     movie.looked = now;
     const frame = movie.script3 || movie.byClock ? undefined : call(movie, 'cf');
@@ -186,9 +204,10 @@ const movies = (() => {
     put(number, about) {
       const slot = slotOf(number);
       remove(slot.coming);
+      hold(slot.shown);
       const element = RufflePlayer.newest().createPlayer();
       const movie = Object.assign({}, about, {
-        slot: number, element, player: null, up: false, gone: false, ready: false, frame: 0, byClock: false,
+        slot: number, element, player: null, up: false, gone: false, held: false, ready: false, frame: 0, byClock: false,
         heard: performance.now(), headerAt: 0, ticks: 0, looked: 0, pause: 0, waiting: [], drawn: new Map(), orders: new Map(),
       });
       const parameters = {};
@@ -204,6 +223,7 @@ const movies = (() => {
       layOut(movie, slot.place);
       document.body.appendChild(element);
       movie.player = element.ruffle(1);
+      element.shadowRoot.querySelector('#play-button').style.visibility = 'hidden';  // over a movie that is held
       movie.player.volume = about.silent ? 0 : 1;
       movie.player.addFSCommandHandler((name, value) => command(movie, name, value));
       element.addEventListener('loadedmetadata', () => {
