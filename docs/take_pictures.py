@@ -64,6 +64,12 @@ def main():
             reader.press("Sunrise bakery", "table cell")
             time.sleep(LAID_OUT)
             take(screen, videos, "video-ads")
+            screen.ask_to_close(videos)
+            screen.keys("ctrl+m")
+            reader.choose_entry("Advertisment", "Ad Settings", "Left side Ad settings")
+            column = until("the desk of the left side ads", lambda: screen.window(form="frmLeftSideAdSett"))
+            time.sleep(LAID_OUT)
+            take(screen, column, "left-side-ads")
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
