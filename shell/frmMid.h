@@ -34,11 +34,18 @@ class frmMid : public Form {
   MenuItem mnuShowHideAd{*this, "mnuShowHideAd"};
   MenuItem mnuShowCrawlersAd{*this, "mnuShowCrawlersAd"};
   MenuItem mnuShowVideoAd{*this, "mnuShowVideoAd"};
+  MenuItem mnuShowFlashAd{*this, "mnuShowFlashAd"};
   MenuItem mnuLeftsideAd{*this, "mnuLeftsideAd"};
   MenuItem mnuAdSettings{*this, "mnuAdSettings"};
   MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
   MenuItem mnuVideoAdSettings{*this, "mnuVideoAdSettings"};
   MenuItem mnuLeftsideAdsettings{*this, "mnuLeftsideAdsettings"};
+  MenuItem mnuLogo{*this, "mnuLogo"};
+  MenuItem mnuShowLogo{*this, "mnuShowLogo"};
+  MenuItem MnuStiker{*this, "MnuStiker"};
+  MenuItem mnuShowStiker{*this, "mnuShowStiker"};
+  MenuItem mnuClock{*this, "mnuClock"};
+  MenuItem mnuShowClock{*this, "mnuShowClock"};
   MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
   MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
   MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};
@@ -88,6 +95,8 @@ class frmMid : public Form {
   void LoadSett();
   // Sends the output window to its monitor.
   void MoveTo();
+  // Brings the overlays that are on, by their keys, in front of an output window that has just put itself on top.
+  void OnTopSet();
   // Whether the machine is on line; asked anew at each call.
   bool netCon();
   // Writes panels 2 to 9 of the status bar.
@@ -109,16 +118,18 @@ class frmMid : public Form {
   void WhenOnline(const std::function<void()>& work);
   void ShowCrawler(bool show);
   void RunVideoAds(bool run);
-  void ShowBreakingNews(bool show);
   void ShowLeftSideAd(bool show);
-  void ShowOutput(bool show);
+  template <class F>
+  void ShowOrUnload(bool show);
   void mnuMasking_Click();
 
   bool ShowKeySays(const std::string& section, const std::string& key = "Show");
+  // Does what the toggle of this flag does when it is switched on, where its key says so.
+  void RestoreShown(bool frmMid::*flag);
   void RestoreMonitor();
-  void RestoreOutput();
   void RestoreBreakingNews();
   void RestoreCrawler();
+  void RestoreFlashAd();
   void RestoreLeftSideAd();
   void RestoreVideoAd();
   void RestorePlaylist();

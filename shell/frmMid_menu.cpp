@@ -1,11 +1,18 @@
 // The menu, the tray and the status bar. What can be switched on and off stands in one table, which the menu and the
 // status bar share.
+#include <algorithm>
+#include <type_traits>
+
 #include "ads/frmAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
+#include "overlay/FrmLogoShow.h"
 #include "overlay/frmBreakingNews.h"
 #include "overlay/frmBreakingNewsSett.h"
+#include "overlay/frmClockShow.h"
+#include "overlay/frmFlashAdShow.h"
+#include "overlay/frmStikerShow.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
@@ -34,6 +41,15 @@ void ShowForm(StationForms& forms) {
 
 }  // namespace
 
+template <class F>
+void frmMid::ShowOrUnload(bool show) {
+  if (show) {
+    station_.forms.Get<F>().Show();
+  } else {
+    station_.forms.Unload<F>();
+  }
+}
+
 struct frmMid::Toggle {
   MenuItem frmMid::*entry;  // null: the status bar tells it, no entry switches it
   bool frmMid::*flag;
@@ -53,14 +69,19 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
        Lamp::kOn},
       {&frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show", &frmMid::ShowLeftSideAd, 0, "",
        Lamp::kNone},
-      {nullptr, &frmMid::FlashAdShown, "FlashAd", "Show", nullptr, 4, "Flash Ad ", Lamp::kOnAir},
-      {nullptr, &frmMid::ClockShown, "Clock", "Show", nullptr, 5, "Show clock ", Lamp::kOnAir},
+      {&frmMid::mnuShowFlashAd, &frmMid::FlashAdShown, "FlashAd", "Show", &frmMid::ShowOrUnload<frmFlashAdShow>, 4,
+       "Flash Ad ", Lamp::kOnAir},
+      {&frmMid::mnuShowClock, &frmMid::ClockShown, "Clock", "Show", &frmMid::ShowOrUnload<frmClockShow>, 5,
+       "Show clock ", Lamp::kOnAir},
       {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
-      {nullptr, &frmMid::LogoShown, "logo", "Show", nullptr, 7, "Show logo ", Lamp::kOnAir},
-      {nullptr, &frmMid::StikerShown, "Stiker", "Show", nullptr, 8, "Show Stiker ", Lamp::kOnAir},
-      {&frmMid::mnuBreakingNewsShow, &frmMid::BreakingNewsShown, "BreakingNews", "Show", &frmMid::ShowBreakingNews, 0,
-       "", Lamp::kNone},
-      {&frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show", &frmMid::ShowOutput, 0, "", Lamp::kNone},
+      {&frmMid::mnuShowLogo, &frmMid::LogoShown, "logo", "Show", &frmMid::ShowOrUnload<FrmLogoShow>, 7, "Show logo ",
+       Lamp::kOnAir},
+      {&frmMid::mnuShowStiker, &frmMid::StikerShown, "Stiker", "Show", &frmMid::ShowOrUnload<frmStikerShow>, 8,
+       "Show Stiker ", Lamp::kOnAir},
+      {&frmMid::mnuBreakingNewsShow, &frmMid::BreakingNewsShown, "BreakingNews", "Show",
+       &frmMid::ShowOrUnload<frmBreakingNews>, 0, "", Lamp::kNone},
+      {&frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show", &frmMid::ShowOrUnload<frmPlayer>, 0, "",
+       Lamp::kNone},
       {&frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2", nullptr, 0, "", Lamp::kNone},
   };
   return kToggles;
@@ -166,12 +187,10 @@ void frmMid::RunVideoAds(bool run) {
   if (!run) station_.forms.Unload<frmVideoAdSett>();
 }
 
-void frmMid::ShowBreakingNews(bool show) {
-  if (show) {
-    station_.forms.Get<frmBreakingNews>().Show();
-  } else {
-    station_.forms.Unload<frmBreakingNews>();
-  }
+void frmMid::RestoreShown(bool frmMid::*flag) {
+  const Toggle& toggle = *std::ranges::find(Toggles(), flag, &Toggle::flag);
+  Mark(flag, ShowKeySays(toggle.section));
+  if (this->*flag) (this->*toggle.turn)(true);
 }
 
 // Switched off, the rotation goes on in the hidden column. Nothing has narrowed the programme, and nothing does. Meant
@@ -191,12 +210,14 @@ void frmMid::ShowLeftSideAd(bool show) {
   }
 }
 
-void frmMid::ShowOutput(bool show) {
-  if (show) {
-    station_.forms.Get<frmPlayer>().Show();
-  } else {
-    station_.forms.Unload<frmPlayer>();
-  }
+void frmMid::OnTopSet() {
+  const auto comeForward = [this]<class F>(const char* section, std::type_identity<F>) {
+    if (ShowKeySays(section)) station_.forms.Get<F>().win.OnTop = true;
+  };
+  SkippingFailures([&] { comeForward("logo", std::type_identity<FrmLogoShow>()); },
+                   [&] { comeForward("Clock", std::type_identity<frmClockShow>()); },
+                   [&] { comeForward("Stiker", std::type_identity<frmStikerShow>()); },
+                   [&] { comeForward("FlashAd", std::type_identity<frmFlashAdShow>()); });
 }
 
 void frmMid::mnuMasking_Click() {
@@ -205,6 +226,7 @@ void frmMid::mnuMasking_Click() {
     output.Unmask();
   } else {
     output.Mask();
+    OnTopSet();
   }
   MaskingOn = !MaskingOn;
   mnuMasking.Checked = MaskingOn;

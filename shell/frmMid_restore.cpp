@@ -4,7 +4,7 @@
 #include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
-#include "overlay/frmBreakingNews.h"
+#include "overlay/frmFlashAdShow.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
 #include "playlist/frmPlaylist.h"
@@ -12,9 +12,11 @@
 #include "shell/frmMid.h"
 
 void frmMid::LoadSett() {
-  SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreOutput(); }, [this] { RestoreBreakingNews(); },
-                   [this] { RestoreCrawler(); }, [this] { RestoreLeftSideAd(); }, [this] { RestoreVideoAd(); },
-                   [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
+  SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreShown(&frmMid::LogoShown); },
+                   [this] { RestoreShown(&frmMid::ClockShown); }, [this] { RestoreShown(&frmMid::StikerShown); },
+                   [this] { RestoreShown(&frmMid::OutputShown); }, [this] { RestoreBreakingNews(); },
+                   [this] { RestoreCrawler(); }, [this] { RestoreFlashAd(); }, [this] { RestoreLeftSideAd(); },
+                   [this] { RestoreVideoAd(); }, [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
 }
 
 bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
@@ -32,18 +34,11 @@ void frmMid::RestoreMonitor() {
 
 void frmMid::MoveTo() { station_.forms.Get<frmPlayer>().MoveTo(OnMonitor2 ? 2 : 1); }
 
-void frmMid::RestoreOutput() {
-  Mark(&frmMid::OutputShown, ShowKeySays("Output"));
-  if (OutputShown) station_.forms.Get<frmPlayer>().Show();
-}
-
 // The entry is ticked and the flag stays off: the first use of the entry shows the strip again, and only the second one
 // takes it off the air. Meant so.
 void frmMid::RestoreBreakingNews() {
-  Mark(&frmMid::BreakingNewsShown, ShowKeySays("BreakingNews"));
-  if (!BreakingNewsShown) return;
+  RestoreShown(&frmMid::BreakingNewsShown);
   BreakingNewsShown = false;
-  station_.forms.Get<frmBreakingNews>().Show();
 }
 
 void frmMid::RestoreCrawler() {
@@ -51,6 +46,11 @@ void frmMid::RestoreCrawler() {
   ShowCrawler(CrawlerShown);
   // The desk comes to life either way: its load puts the ad that was there last into the band, seen or not.
   station_.forms.Get<frmAdSett>().Hide();
+}
+
+void frmMid::RestoreFlashAd() {
+  RestoreShown(&frmMid::FlashAdShown);
+  if (!FlashAdShown) station_.forms.Unload<frmFlashAdShow>();
 }
 
 void frmMid::RestoreLeftSideAd() {

@@ -322,4 +322,16 @@ TEST_F(OverlayMonitorsTest, AMonitorThatIsNotThereMovesNothing) {
   EXPECT_EQ(Logo().Left, 37.3);
 }
 
+TEST_F(OverlayMonitorsTest, AnOverlayDoesNotFollowTheOutput) {
+  Set("Output", "Show", "True");
+  Set("logo", "Show", "True");
+  Set("logo", "Left", "900");
+  ControlWindow();
+  Advance(3s);
+  ControlWindow().mnuMonitor2.Choose();
+  Advance(3s);
+  EXPECT_GE(Output().Left, ToTwips(1920));
+  EXPECT_EQ(Logo().Left, 900);
+}
+
 }  // namespace

@@ -24,6 +24,10 @@ constexpr ToggleRow kToggles[] = {
     {"mnuOutputWindow", &frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show"},
     {"mnuMonitor2", &frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2"},
     {"mnuLeftsideAd", &frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show"},
+    {"mnuShowFlashAd", &frmMid::mnuShowFlashAd, &frmMid::FlashAdShown, "FlashAd", "Show"},
+    {"mnuShowLogo", &frmMid::mnuShowLogo, &frmMid::LogoShown, "logo", "Show"},
+    {"mnuShowStiker", &frmMid::mnuShowStiker, &frmMid::StikerShown, "Stiker", "Show"},
+    {"mnuShowClock", &frmMid::mnuShowClock, &frmMid::ClockShown, "Clock", "Show"},
 };
 
 constexpr char kExitBox[] = "box \"Are You Sure you wnat to EXIT from Corvanta 6.0?\" \"Exit\"";

@@ -48,11 +48,18 @@ TEST_F(MenuTreeTest, TheMenuBarHasItsEntriesInTheirOrderLetterForLetter) {
                                                    "  mnuShowHideAd \"Show Ads\"",
                                                    "    mnuShowCrawlersAd \"Show crawlers Ad\"",
                                                    "    mnuShowVideoAd \"Show video Ad\"",
+                                                   "    mnuShowFlashAd \"Show flash Ad\"",
                                                    "    mnuLeftsideAd \"Show left side Ad\"",
                                                    "  mnuAdSettings \"Ad Settings\"",
                                                    "    mnuScorlAsSettings \"Crawlers  Ad settings\"",
                                                    "    mnuVideoAdSettings \"Video Ad settings\"",
                                                    "    mnuLeftsideAdsettings \"Left side Ad settings\"",
+                                                   "mnuLogo \"&Logo\"",
+                                                   "  mnuShowLogo \"Show logo\"",
+                                                   "MnuStiker \"Stiker\"",
+                                                   "  mnuShowStiker \"Show stiker\"",
+                                                   "mnuClock \"&Clock\"",
+                                                   "  mnuShowClock \"Show clock\"",
                                                    "mnuOutput \"&Display\"",
                                                    "  mnuOutputWindow \"Show output\"",
                                                    "  mnuMonitor2 \"Output  to secondary display (TV)\"",
@@ -91,7 +98,8 @@ TEST_F(MenuTreeTest, WhatIsSwitchedHasATickAndNothingElseHas) {
   for (const QAction* action : Window().findChildren<QAction*>()) {
     if (action->isCheckable()) checkable.push_back(Stored(action->objectName()));
   }
-  EXPECT_EQ(checkable, (Lines{"mnuShowCrawlersAd", "mnuShowVideoAd", "mnuOutputWindow", "mnuMonitor2", "mnuMasking"}));
+  EXPECT_EQ(checkable, (Lines{"mnuShowCrawlersAd", "mnuShowVideoAd", "mnuShowFlashAd", "mnuLeftsideAd", "mnuShowLogo",
+                              "mnuShowStiker", "mnuShowClock", "mnuOutputWindow", "mnuMonitor2", "mnuMasking"}));
 }
 
 TEST_F(MenuTreeTest, AChosenEntryOfTheWindowIsTickedAndUntickedByTheStation) {
