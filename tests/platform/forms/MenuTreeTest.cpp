@@ -60,6 +60,9 @@ TEST_F(MenuTreeTest, TheMenuBarHasItsEntriesInTheirOrderLetterForLetter) {
                                                    "  mnuShowStiker \"Show stiker\"",
                                                    "mnuClock \"&Clock\"",
                                                    "  mnuShowClock \"Show clock\"",
+                                                   "mnuBreakingNews \"Breaking nws\"",
+                                                   "  mnuBreakingNewsShow \"Show\"",
+                                                   "  mnuBreakingNewsSettings \"Settings\"",
                                                    "mnuOutput \"&Display\"",
                                                    "  mnuOutputWindow \"Show output\"",
                                                    "  mnuMonitor2 \"Output  to secondary display (TV)\"",
@@ -99,7 +102,8 @@ TEST_F(MenuTreeTest, WhatIsSwitchedHasATickAndNothingElseHas) {
     if (action->isCheckable()) checkable.push_back(Stored(action->objectName()));
   }
   EXPECT_EQ(checkable, (Lines{"mnuShowCrawlersAd", "mnuShowVideoAd", "mnuShowFlashAd", "mnuLeftsideAd", "mnuShowLogo",
-                              "mnuShowStiker", "mnuShowClock", "mnuOutputWindow", "mnuMonitor2", "mnuMasking"}));
+                              "mnuShowStiker", "mnuShowClock", "mnuBreakingNewsShow", "mnuOutputWindow", "mnuMonitor2",
+                              "mnuMasking"}));
 }
 
 TEST_F(MenuTreeTest, AChosenEntryOfTheWindowIsTickedAndUntickedByTheStation) {
