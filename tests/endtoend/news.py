@@ -25,7 +25,7 @@ HEADLINES = (
 )
 
 
-def station_with_strip(desk, *headlines, hold=75, **settings):
+def station_with_strip(desk, *headlines, hold=75, speed=5, **settings):
     """A station whose strip is on, below the output window and at the size of its movie. Without headlines there is no
     rss.ini."""
     place = {"Left": "300"}
@@ -37,7 +37,7 @@ def station_with_strip(desk, *headlines, hold=75, **settings):
     ini.write(windows, {"frmPlayer": output, "frmBreakingNews": strip})
     movie = station.folder / "Media" / "FlashBN" / "bn.swf"
     movie.parent.mkdir(parents=True)
-    movie.write_bytes(movies.breaking_news(hold=hold))
+    movie.write_bytes(movies.breaking_news(hold=hold, speed=speed))
     if headlines:
         store(station, *headlines)
     station.playlist(media.frames())
@@ -135,6 +135,7 @@ def a_new_station_has_the_movie_and_a_strip_without_one_is_empty_and_silent(desk
     movie.write_bytes(b"")
     station.start_on_air()
     until("the strip", lambda: strip(station))
+    until("the splash to go", lambda: station.screen.window(form="frmLoad") is None)
     throughout("an empty strip", lambda: {p for row in pixels(station) for p in row} == {(0, 0, 0)}, 3)
     station.assert_responsive()
 
@@ -142,7 +143,7 @@ def a_new_station_has_the_movie_and_a_strip_without_one_is_empty_and_silent(desk
 @scenario
 def headlines_of_ten_thousand_letters_and_strange_signs_pass_and_the_programme_goes_on(desk):
     strange = ["[1] = ; \"quoted\" 100% <b>&amp;</b> \\n", "x" * 10_000, "ব" * 10_000, "\u202e\ufeff\u0007 \U0001f4f0", "The end"]
-    station = station_with_strip(desk, *strange, hold=5)
+    station = station_with_strip(desk, *strange, hold=25, speed=50)
     station.start_on_air()
     before = until("the programme", station.frame)
     await_text(station, "The end", "Latn", seconds=170)
