@@ -62,6 +62,27 @@ def cpu_of_tree(root):
     return total
 
 
+def pss_of_tree(root):
+    """Megabytes of the process and all below it, what is shared counted once."""
+    parents = {}
+    for entry in os.listdir("/proc"):
+        if entry.isdigit():
+            try:
+                parents[int(entry)] = stat_of(entry)[0]
+            except OSError:
+                pass
+    total, waiting = 0, [root]
+    while waiting:
+        pid = waiting.pop()
+        try:
+            lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
+            total += sum(int(line.split()[1]) for line in lines if line.startswith("Pss:"))
+        except OSError:
+            pass
+        waiting += [child for child, parent in parents.items() if parent == pid]
+    return total / 1024
+
+
 def x_server_of(desk):
     ours = str(os.getpid())
     servers = subprocess.run(["pgrep", "-P", ours, "Xvfb"], capture_output=True, text=True, check=True).stdout.split()

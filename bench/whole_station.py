@@ -11,12 +11,13 @@ import sys
 import time
 
 import composed
-from composed import ROOT, clip, cpu_of_tree, picture, x_server_of
+from composed import ROOT, clip, cpu_of_tree, picture, pss_of_tree, x_server_of
 from crawl import TICKS, counts
 from harness import ini
 from harness.desk import Desk
 from harness.station import MOVIES, Station
-from movies import movies, pss_of_tree
+
+import movies  # the station's own, which the demo makes
 
 PROGRAM = MOVIES.with_name("station_on_air")
 SETTLED = 20

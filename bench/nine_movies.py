@@ -1,19 +1,16 @@
 #!/usr/bin/python3
-"""movies.py [SECONDS]: what nine Flash movies over a 1080p clip cost, in CPU seconds per second of the whole process tree
+"""nine_movies.py [SECONDS]: what nine Flash movies over a 1080p clip cost, in CPU seconds per second of the whole process tree
 and of the X server, and in memory (PSS) of the tree. Beside it, in the same run: mpv with the clip alone, and the
 station's own window with the clip and no movie."""
 
-import os
-import pathlib
 import sys
 import time
 
 import composed
-from composed import ROOT, clip, cpu_of_tree, stat_of, x_server_of
+from composed import ROOT, clip, cpu_of_tree, pss_of_tree, x_server_of
 from harness.desk import Desk
 
-sys.path.insert(0, str(ROOT / "demo"))
-import movies  # noqa: E402
+import movies  # the station's own, which the demo makes
 
 PROGRAM = ROOT / "build" / "release" / "app" / "movies_on_air"
 # Movie and its place: left, top, width, height in pixels.
@@ -28,27 +25,6 @@ NINE = [
     (movies.digital, 600, 500, 250, 80),
     (lambda: movies.flash_ad((110, 60, 30, 235), "Fresh coffee"), 900, 300, 400, 120),
 ]
-
-
-def pss_of_tree(root):
-    """Megabytes of the process and all below it, what is shared counted once."""
-    parents = {}
-    for entry in os.listdir("/proc"):
-        if entry.isdigit():
-            try:
-                parents[int(entry)] = stat_of(entry)[0]
-            except OSError:
-                pass
-    total, waiting = 0, [root]
-    while waiting:
-        pid = waiting.pop()
-        try:
-            lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
-            total += sum(int(line.split()[1]) for line in lines if line.startswith("Pss:"))
-        except OSError:
-            pass
-        waiting += [child for child, parent in parents.items() if parent == pid]
-    return total / 1024
 
 
 def measure(command, seconds):
