@@ -1,9 +1,6 @@
 #include "ads/frmVideoAdSett.h"
 
-#include <limits>
-
 #include "ads/AdFolders.h"
-#include "platform/toolkit/Failure.h"
 #include "platform/toolkit/Failures.h"
 #include "settings/Helpers.h"
 #include "settings/Numbers.h"
@@ -12,12 +9,6 @@ namespace {
 
 constexpr char kSection[] = "VideoAd";
 constexpr int kLongestBreak = 999;  // minutes
-
-std::int16_t SixteenBits(std::int32_t number) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  if (number < Limits::min() || number > Limits::max()) throw Failure("The number does not fit.");
-  return static_cast<std::int16_t>(number);
-}
 
 }  // namespace
 

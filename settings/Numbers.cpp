@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <system_error>
 
@@ -69,4 +70,10 @@ std::int32_t RoundHalfEven(double number) {
   // Written so that "not a number" fails too.
   if (!(whole >= INT32_MIN && whole <= INT32_MAX)) throw Failure("The number is too large.");
   return static_cast<std::int32_t>(whole);
+}
+
+std::int16_t SixteenBits(std::int32_t number) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  if (number < Limits::min() || number > Limits::max()) throw Failure("The number does not fit.");
+  return static_cast<std::int16_t>(number);
 }

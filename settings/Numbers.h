@@ -21,3 +21,5 @@ std::string DoubleText(double number);
 // The nearest whole number, a half going to the even neighbour: 0.5 gives 0, 1.5 gives 2. Throws Failure for what does
 // not fit.
 std::int32_t RoundHalfEven(double number);
+// The number in sixteen bits. Throws Failure for what does not fit.
+std::int16_t SixteenBits(std::int32_t number);

@@ -65,4 +65,9 @@ TEST(NumbersTest, ANumberThatDoesNotFitCannotBeRounded) {
   EXPECT_THROW(RoundHalfEven(std::numeric_limits<double>::quiet_NaN()), Failure);
 }
 
+TEST(NumbersTest, WhatIsBeyondSixteenBitsFails) {
+  for (const std::int32_t number : {-32768, 0, 32767}) EXPECT_EQ(SixteenBits(number), number);
+  for (const std::int32_t number : {-32769, 32768, 57600}) EXPECT_THROW(SixteenBits(number), Failure);
+}
+
 }  // namespace
