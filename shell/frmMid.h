@@ -42,10 +42,13 @@ class frmMid : public Form {
   MenuItem mnuLeftsideAdsettings{*this, "mnuLeftsideAdsettings"};
   MenuItem mnuLogo{*this, "mnuLogo"};
   MenuItem mnuShowLogo{*this, "mnuShowLogo"};
+  MenuItem mnuFlashLogo{*this, "mnuFlashLogo"};
   MenuItem MnuStiker{*this, "MnuStiker"};
   MenuItem mnuShowStiker{*this, "mnuShowStiker"};
+  MenuItem MnuStikerSettings{*this, "MnuStikerSettings"};
   MenuItem mnuClock{*this, "mnuClock"};
   MenuItem mnuShowClock{*this, "mnuShowClock"};
+  MenuItem mnuClockSettings{*this, "mnuClockSettings"};
   MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
   MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
   MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};

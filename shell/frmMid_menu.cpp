@@ -10,8 +10,11 @@
 #include "overlay/FrmLogoShow.h"
 #include "overlay/frmBreakingNews.h"
 #include "overlay/frmBreakingNewsSett.h"
+#include "overlay/frmClockSett.h"
 #include "overlay/frmClockShow.h"
 #include "overlay/frmFlashAdShow.h"
+#include "overlay/frmLogoSett.h"
+#include "overlay/frmStikerSett.h"
 #include "overlay/frmStikerShow.h"
 #include "platform/Desktop.h"
 #include "platform/toolkit/Failures.h"
@@ -102,6 +105,9 @@ void frmMid::ConnectMenu() {
       {mnuVideoAdSettings, ShowForm<frmVideoAdSett>},
       {mnuBreakingNewsSettings, ShowForm<frmBreakingNewsSett>},
       {mnuLeftsideAdsettings, ShowForm<frmLeftSideAdSett>},
+      {mnuFlashLogo, ShowForm<frmLogoSett>},
+      {MnuStikerSettings, ShowForm<frmStikerSett>},
+      {mnuClockSettings, ShowForm<frmClockSett>},
       {mnuAbout2, ShowForm<frmAbout>},
       {mnuTrayAbout, ShowForm<frmAbout>},
   };

@@ -10,14 +10,20 @@ namespace {
 constexpr EmptyTextRow kTexts[] = {
     {"frmAdSett", "ListAd", "Choose a header and a scroll picture below, type a name and press \"Save\"."},
     {"frmBreakingNewsSett", "ListNews", "Write a headline below and press \"Add\"."},
+    {"frmClockSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
+    {"frmClockSett", "FileList", "Choose a category, then press \"Browse\" and choose a movie."},
     {"frmLeftSideAdSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
     {"frmLeftSideAdSett", "File", "Click a category, then press \"Browse\" and choose a movie."},
+    {"frmLogoSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
+    {"frmLogoSett", "FileList", "Choose a category, then press \"Browse\" and choose a movie or a picture."},
     {"frmPlaylist", "FilePlaylist", "Press \"Add new playlist\" to make the first one."},
     {"frmPlaylist", "ListPlay", "Choose a playlist, then select a file below and press \"Add\"."},
     {"frmPlaylist", "FileList", "Press \"Browse\" and choose a folder with videos."},
     {"frmPlaylist", "FileQuick", "Press \"Load folder\" and choose a folder with videos."},
     {"frmPlaylist", "ListSchedule", "Choose date, time and playlist, then press \"Add schedule\"."},
     {"frmPlaylist", "ListTime", "Not in use."},
+    {"frmStikerSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
+    {"frmStikerSett", "FileList", "Choose a category, then press \"Browse\" and choose a movie or a picture."},
     {"frmVideoAdSett", "ListAd", "Press \"Load Ad file\" and choose a video, then press \"Save Ad file\"."},
 };
 
