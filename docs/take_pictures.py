@@ -70,6 +70,14 @@ def main():
             column = until("the desk of the left side ads", lambda: screen.window(form="frmLeftSideAdSett"))
             time.sleep(LAID_OUT)
             take(screen, column, "left-side-ads")
+            screen.ask_to_close(column)
+            screen.keys("ctrl+m")
+            reader.choose_entry("Logo", "Logo settings")
+            library = until("the library of the logo", lambda: screen.window(form="frmLogoSett"))
+            reader.press("Demo", "list item")
+            reader.press("logo.swf", "list item")
+            time.sleep(LAID_OUT)
+            take(screen, library, "logo-library")
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
