@@ -30,8 +30,8 @@ def line(text, size, left):
 
 
 def caption(text):
-    """A filter that writes `text` across the lower part of the picture, on a dark plate."""
+    """A filter that writes `text` across the middle of the picture, on a dark plate."""
     return (
         f"drawtext=fontfile={FONT}:text='{text}':fontsize=56:fontcolor=white:"
-        "box=1:boxcolor=black@0.6:boxborderw=24:x=(w-tw)/2:y=h*0.78"
+        "box=1:boxcolor=black@0.6:boxborderw=24:x=(w-tw)/2:y=(h-th)*0.4"
     )

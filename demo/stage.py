@@ -10,6 +10,7 @@ import shutil
 import sys
 
 import clips
+import movies
 
 VIDEO = ["-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p", "-c:a", "aac", "-shortest"]
 
@@ -75,8 +76,49 @@ SETTINGS = {
     },
 }
 
-# Twips, 15 to a pixel: an output window of 1024 by 576 pixels, which the control window in the middle leaves free.
-WINDOWS = {"frmPlayer": {"Left": "0", "Top": "0", "Width": "15360", "Height": "8640"}}
+# Left, top, width and height in pixels. An output window that the control window in the middle leaves free; at its left
+# edge the column of side ads, along its lower edge the crawler's band, 92 pixels high, and the news strip on that. What
+# stands above the picture shares the rest, each in the shape of its movie.
+COLUMN = 136
+PLACES = {
+    "frmPlayer": (0, 0, 896, 504),
+    "FrmLogoShow": (754, 12, 132, 88),
+    "frmClockShow": (COLUMN + 12, 12, 150, 48),
+    "frmStikerShow": (798, 272, 88, 88),
+    "frmFlashAdShow": (COLUMN + 12, 276, 280, 84),
+    "frmBreakingNews": (COLUMN, 368, 760, 44),
+}
+
+HEADLINES = [
+    "The new harbour bridge opens on Monday at eight",
+    "Town library: the reading hour moves to five o'clock on Wednesdays",
+    "Rain until Thursday, then a dry and sunny weekend",
+]
+
+
+def twips(pixels):
+    return str(15 * pixels)
+
+
+def windows():
+    keys = ("Left", "Top", "Width", "Height")
+    return {form: dict(zip(keys, map(twips, place))) for form, place in PLACES.items()}
+
+
+def above_the_picture(media):
+    """The settings of what stands above the picture; each one's `Left` wins over its remembered place."""
+
+    def on(form, **keys):
+        return {"Show": "True", "Left": twips(PLACES[form][0]), **keys}
+
+    return {
+        "Logo": on("FrmLogoShow", Path=media / "Logo" / "logo.swf"),
+        "Clock": on("frmClockShow", Path=media / "Clock" / "digital.swf"),
+        "Stiker": on("frmStikerShow", Path=media / "Stiker" / "new.swf"),
+        "FlashAd": on("frmFlashAdShow", LastPath=media / "FlashAd" / "Demo"),
+        "LeftSideAd": {"Show": "True", "Width": twips(COLUMN), "LastPath": media / "LeftSideAd" / "Demo"},
+        "BreakingNews": on("frmBreakingNews"),
+    }
 
 
 def write_ini(path, sections):
@@ -152,9 +194,11 @@ def main():
         crawlers(station / "Ads")
     if not (station / "VideoAd").exists():
         video_ads(station / "VideoAd")
+    movies.make(station / "Media")
     SETTINGS["Playlist"]["FolderPath"] = str(clip_folder)
-    write_ini(station / "Settings.ini", SETTINGS)
-    write_ini(station / "Window.ini", WINDOWS)
+    write_ini(station / "Settings.ini", SETTINGS | above_the_picture(station / "Media"))
+    write_ini(station / "Window.ini", windows())
+    write_ini(station / "rss.ini", {str(row): {"Text": text, "Active": "1"} for row, text in enumerate(HEADLINES, 1)})
     write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))
     # A running program's file cannot be written over, but it can be replaced.
     for name in ("corvanta", "corvanta-movies"):
