@@ -10,6 +10,8 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tests" / "endtoend"))
+sys.path.insert(0, str(ROOT / "demo"))
+import stage  # noqa: E402
 from harness.desk import Desk  # noqa: E402
 from harness.patience import until  # noqa: E402
 from harness.reader import Reader  # noqa: E402
@@ -78,6 +80,13 @@ def main():
             reader.press("logo.swf", "list item")
             time.sleep(LAID_OUT)
             take(screen, library, "logo-library")
+            screen.ask_to_close(library)
+            screen.keys("ctrl+m")
+            reader.choose_entry("Breaking nws", "Settings")
+            news = until("the desk of the news strip", lambda: screen.window(form="frmBreakingNewsSett"))
+            reader.press(stage.HEADLINES[0], "table cell")
+            time.sleep(1)
+            take(screen, news, "news-desk")
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
