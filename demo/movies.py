@@ -322,10 +322,10 @@ def plain(colour, frames=50, rate=25, width=320, height=180, **more):
 
 # Where the demo station keeps them.
 MOVIES = {
-    "Logo/logo.swf": logo,
-    "Clock/analogue.swf": analogue,
-    "Clock/digital.swf": digital,
-    "Stiker/new.swf": sticker,
+    "Logo/Demo/logo.swf": logo,
+    "Clock/Demo/analogue.swf": analogue,
+    "Clock/Demo/digital.swf": digital,
+    "Stiker/Demo/new.swf": sticker,
     "FlashAd/Demo/1 coffee.swf": lambda: flash_ad((110, 60, 30, 235), "Fresh coffee"),
     "FlashAd/Demo/2 books.swf": lambda: flash_ad((30, 90, 60, 235), "Old books"),
     "LeftSideAd/Demo/1 bakery.swf": lambda: side_ad((160, 90, 30, 255), "Bakery"),

@@ -112,9 +112,9 @@ def above_the_picture(media):
         return {"Show": "True", "Left": twips(PLACES[form][0]), **keys}
 
     return {
-        "Logo": on("FrmLogoShow", Path=media / "Logo" / "logo.swf"),
-        "Clock": on("frmClockShow", Path=media / "Clock" / "digital.swf"),
-        "Stiker": on("frmStikerShow", Path=media / "Stiker" / "new.swf"),
+        "Logo": on("FrmLogoShow", Path=media / "Logo" / "Demo" / "logo.swf"),
+        "Clock": on("frmClockShow", Path=media / "Clock" / "Demo" / "digital.swf"),
+        "Stiker": on("frmStikerShow", Path=media / "Stiker" / "Demo" / "new.swf"),
         "FlashAd": on("frmFlashAdShow", LastPath=media / "FlashAd" / "Demo"),
         "LeftSideAd": {"Show": "True", "Width": twips(COLUMN), "LastPath": media / "LeftSideAd" / "Demo"},
         "BreakingNews": on("frmBreakingNews"),
