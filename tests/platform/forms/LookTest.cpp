@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QToolTip>
 
+#include "overlay/frmLogoSett.h"
 #include "platform/qt/desktop/QtDialogs.h"
 #include "platform/qt/forms/Texts.h"
 #include "platform/qt/forms/look/Colours.h"
@@ -123,6 +124,22 @@ TEST_F(LookTest, RowsCanBeReadSelectedOrNotAndInAWindowThatIsNotActive) {
     list->setEnabled(false);
     ExpectReadable(*list, "disabled", 2);
   }
+}
+
+TEST_F(LookTest, RowsOfADrawnListCanBeReadSelectedOrNotAndInAWindowThatIsNotActive) {
+  for (const char* name : {"news", "sport", "weather"}) {
+    sim.files.CreateFolder(std::string("/station/Media/Logo/") + name);
+  }
+  auto& form = Get<frmLogoSett>();
+  form.FolderList.ListIndex = 1;
+  auto& list = Shown<QAbstractItemView>(form.FolderList);
+  Look(WindowOf(form).Widget());
+  list.setFocus();
+  ExpectReadable(list, "active", 3);
+  list.clearFocus();
+  ExpectReadable(list, "without the keyboard", 3);
+  list.setEnabled(false);
+  ExpectReadable(list, "disabled", 3);
 }
 
 TEST_F(LookTest, TheTextOfEveryBoxCanBeRead) {
