@@ -12,6 +12,8 @@ constexpr EmptyTextRow kTexts[] = {
     {"frmBreakingNewsSett", "ListNews", "Write a headline below and press \"Add\"."},
     {"frmClockSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
     {"frmClockSett", "FileList", "Choose a category, then press \"Browse\" and choose a movie."},
+    {"frmFlashAdSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
+    {"frmFlashAdSett", "File", "Click a category, then press \"Browse\" and choose a movie."},
     {"frmLeftSideAdSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
     {"frmLeftSideAdSett", "File", "Click a category, then press \"Browse\" and choose a movie."},
     {"frmLogoSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
