@@ -39,6 +39,7 @@ class frmMid : public Form {
   MenuItem mnuAdSettings{*this, "mnuAdSettings"};
   MenuItem mnuScorlAsSettings{*this, "mnuScorlAsSettings"};
   MenuItem mnuVideoAdSettings{*this, "mnuVideoAdSettings"};
+  MenuItem mnuFlashAd{*this, "mnuFlashAd"};
   MenuItem mnuLeftsideAdsettings{*this, "mnuLeftsideAdsettings"};
   MenuItem mnuLogo{*this, "mnuLogo"};
   MenuItem mnuShowLogo{*this, "mnuShowLogo"};
@@ -121,6 +122,7 @@ class frmMid : public Form {
   void WhenOnline(const std::function<void()>& work);
   void ShowCrawler(bool show);
   void RunVideoAds(bool run);
+  void ShowFlashAd(bool show);
   void ShowLeftSideAd(bool show);
   template <class F>
   void ShowOrUnload(bool show);

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "ads/frmAdSett.h"
+#include "ads/frmFlashAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "output/frmPlayer.h"
@@ -72,8 +73,8 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
        Lamp::kOn},
       {&frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show", &frmMid::ShowLeftSideAd, 0, "",
        Lamp::kNone},
-      {&frmMid::mnuShowFlashAd, &frmMid::FlashAdShown, "FlashAd", "Show", &frmMid::ShowOrUnload<frmFlashAdShow>, 4,
-       "Flash Ad ", Lamp::kOnAir},
+      {&frmMid::mnuShowFlashAd, &frmMid::FlashAdShown, "FlashAd", "Show", &frmMid::ShowFlashAd, 4, "Flash Ad ",
+       Lamp::kOnAir},
       {&frmMid::mnuShowClock, &frmMid::ClockShown, "Clock", "Show", &frmMid::ShowOrUnload<frmClockShow>, 5,
        "Show clock ", Lamp::kOnAir},
       {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
@@ -104,6 +105,7 @@ void frmMid::ConnectMenu() {
       {mnuScorlAsSettings, ShowForm<frmAdSett>},
       {mnuVideoAdSettings, ShowForm<frmVideoAdSett>},
       {mnuBreakingNewsSettings, ShowForm<frmBreakingNewsSett>},
+      {mnuFlashAd, ShowForm<frmFlashAdSett>},
       {mnuLeftsideAdsettings, ShowForm<frmLeftSideAdSett>},
       {mnuFlashLogo, ShowForm<frmLogoSett>},
       {MnuStikerSettings, ShowForm<frmStikerSett>},
@@ -197,6 +199,15 @@ void frmMid::RestoreShown(bool frmMid::*flag) {
   const Toggle& toggle = *std::ranges::find(Toggles(), flag, &Toggle::flag);
   Mark(flag, ShowKeySays(toggle.section));
   if (this->*flag) (this->*toggle.turn)(true);
+}
+
+// The form refuses to unload and hides. Meant so.
+void frmMid::ShowFlashAd(bool show) {
+  if (show) station_.forms.Get<frmFlashAdShow>().Show();
+  station_.forms.Get<frmFlashAdSett>().TimerFlash.Enabled = show;
+  if (show) return;
+  station_.forms.Unload<frmFlashAdShow>();
+  station_.forms.Unload<frmFlashAdSett>();
 }
 
 // Switched off, the rotation goes on in the hidden column. Nothing has narrowed the programme, and nothing does. Meant

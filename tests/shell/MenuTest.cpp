@@ -1,5 +1,6 @@
 // The menu of the control window, entry by entry.
 #include "ads/frmAdSett.h"
+#include "ads/frmFlashAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
 #include "platform/toolkit/Failure.h"
@@ -23,8 +24,8 @@ constexpr ToggleRow kToggles[] = {
     {"mnuShowVideoAd", &frmMid::mnuShowVideoAd, &frmMid::VideoAdShown, "VideoAd", "Show"},
     {"mnuOutputWindow", &frmMid::mnuOutputWindow, &frmMid::OutputShown, "Output", "Show"},
     {"mnuMonitor2", &frmMid::mnuMonitor2, &frmMid::OnMonitor2, "Output", "Monitor2"},
-    {"mnuLeftsideAd", &frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show"},
     {"mnuShowFlashAd", &frmMid::mnuShowFlashAd, &frmMid::FlashAdShown, "FlashAd", "Show"},
+    {"mnuLeftsideAd", &frmMid::mnuLeftsideAd, &frmMid::LeftSideAdShown, "LeftSideAd", "Show"},
     {"mnuShowLogo", &frmMid::mnuShowLogo, &frmMid::LogoShown, "logo", "Show"},
     {"mnuShowStiker", &frmMid::mnuShowStiker, &frmMid::StikerShown, "Stiker", "Show"},
     {"mnuShowClock", &frmMid::mnuShowClock, &frmMid::ClockShown, "Clock", "Show"},
@@ -297,6 +298,7 @@ TEST_F(MenuTest, EntriesOpenTheirFormsAndLeaveTheStationToItself) {
   opens(ControlWindow().mnuPlayList, Playlists());
   opens(ControlWindow().mnuScorlAsSettings, station.forms.Get<frmAdSett>());
   opens(ControlWindow().mnuVideoAdSettings, Breaks());
+  opens(ControlWindow().mnuFlashAd, station.forms.Get<frmFlashAdSett>());
   opens(ControlWindow().mnuLeftsideAdsettings, station.forms.Get<frmLeftSideAdSett>());
   opens(ControlWindow().mnuAbout2, station.forms.Get<frmAbout>());
 }

@@ -53,6 +53,7 @@ TEST_F(MenuTreeTest, TheMenuBarHasItsEntriesInTheirOrderLetterForLetter) {
                                                    "  mnuAdSettings \"Ad Settings\"",
                                                    "    mnuScorlAsSettings \"Crawlers  Ad settings\"",
                                                    "    mnuVideoAdSettings \"Video Ad settings\"",
+                                                   "    mnuFlashAd \"Flash Ad settings\"",
                                                    "    mnuLeftsideAdsettings \"Left side Ad settings\"",
                                                    "mnuLogo \"&Logo\"",
                                                    "  mnuShowLogo \"Show logo\"",
