@@ -5,7 +5,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-using Sides = ::testing::Types<ColumnSide>;
+using Sides = ::testing::Types<ColumnSide, OverlaySide>;
 TYPED_TEST_SUITE(MovieRotationTest, Sides);
 
 constexpr char kDeleteMovieBox[] = "box \"Are You Sure you wnat to Delete this Ad?\" \"Delete logo\"";

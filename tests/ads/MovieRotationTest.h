@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "ads/frmFlashAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
+#include "overlay/frmFlashAdShow.h"
 #include "tests/StationTest.h"
 
 // What the tests of both rotations need to know of the one they are about.
@@ -13,6 +15,15 @@ struct ColumnSide {
   static constexpr char kOnAir[] = "frmPlayer.FlashSideAd";
   static constexpr char kFilter[] = "LeftSideAd file|*.swf;";
   static FlashBox& Watched(Station& station) { return station.forms.Get<frmLeftSideAdSett>().FlashPreview; }
+};
+
+struct OverlaySide {
+  using Desk = frmFlashAdSett;
+  static constexpr char kSection[] = "FlashAd";
+  static constexpr char kLibrary[] = "/station/Media/FlashAd";
+  static constexpr char kOnAir[] = "frmFlashAdShow.Flash";
+  static constexpr char kFilter[] = "FlashAd file|*.swf;";
+  static FlashBox& Watched(Station& station) { return station.forms.Get<frmFlashAdShow>().Flash; }
 };
 
 // A station with categories of movies, 25 frames a second each.
