@@ -160,6 +160,7 @@ void QtSurface::Shown(qint64 serial, int frame) {
 void QtSurface::Settled(qint64 serial) {
   if (serial != loading_) return;
   loading_ = 0;
+  emit frames_.Renewed();
   if (waits_) flash_.BeginSoon();
 }
 
@@ -168,6 +169,12 @@ void QtSurface::SetTarget(QSize pixels) {
   target_ = pixels;
   if (isPicture_ && serial_ == 0) LoadPicture();
   flash_.BeginSoon();
+}
+
+void QtSurface::SetKey(std::optional<QRgb> colour) {
+  if (colour == key_) return;
+  key_ = colour;
+  if (isPicture_ && serial_ == 0) LoadPicture();
 }
 
 void QtSurface::PictureWaits() {
@@ -206,13 +213,15 @@ void QtSurface::LoadPicture() {
     const QSize size = QImageReader(path).size().scaled(target_, Qt::KeepAspectRatio);
     place = QRect(QPoint((target_.width() - size.width()) / 2, (target_.height() - size.height()) / 2), size);
   }
-  flash_.Pictures().Load(path, place.size(), this, [this, place, wish = ++pictureWish_](const SharedPicture& picture) {
+  const auto show = [this, place, wish = ++pictureWish_](const SharedPicture& picture) {
     if (wish == pictureWish_ && picture) ShowPicture(picture, place);
-  });
+  };
+  flash_.Pictures().Load({path, place.size(), key_}, this, show);
 }
 
 void QtSurface::ShowPicture(const SharedPicture& picture, QRect place) {
   EndMovie();
+  emit frames_.Renewed();
   const bool isWhole = picture->columns.size() == 1 && place == QRect({0, 0}, target_);
   if (isWhole) return Offer(picture->columns[0].image);
   QImage whole(target_, QImage::Format_ARGB32_Premultiplied);

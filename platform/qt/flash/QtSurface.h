@@ -3,6 +3,7 @@
 #include <QObject>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,6 +46,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
    public:
     explicit Pictures(QtSurface& surface) : surface_(surface) {}
     void SetTarget(QSize pixels) override { surface_.SetTarget(pixels); }
+    void SetKey(std::optional<QRgb> colour) override { surface_.SetKey(colour); }
     std::optional<QImage> Take() override { return surface_.Take(); }
 
    private:
@@ -52,6 +54,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   };
 
   void SetTarget(QSize pixels);
+  void SetKey(std::optional<QRgb> colour);
   std::optional<QImage> Take();
   QSize WantedSize() const;
   void TellSlot();
@@ -82,6 +85,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   FlashLooks begunLooks_;
 
   QSize target_;
+  std::optional<QRgb> key_;
   QSize told_;  // the size that the program was told
   std::shared_ptr<SharedFrames> shared_;
   std::optional<QImage> next_;  // what Take gives before the movie's own pictures

@@ -24,7 +24,7 @@ void PictureView::Load() {
   ++wish_;
   if (natural_.isEmpty()) return Take(nullptr);
   if (room.isEmpty()) return;
-  loader_.Load(path_, room, this, [this, wish = wish_](SharedPicture picture) {
+  loader_.Load({path_, room}, this, [this, wish = wish_](SharedPicture picture) {
     if (wish == wish_) Take(std::move(picture));
   });
 }

@@ -45,7 +45,7 @@ void PaneItem::LoadPicture() {
   if (wanted.path.empty()) {
     show(nullptr);
   } else {
-    scene_.pictures.Load(QString::fromStdString(wanted.path), {}, this, show);
+    scene_.pictures.Load({QString::fromStdString(wanted.path)}, this, show);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <algorithm>
+#include <span>
 
 namespace {
 
@@ -27,13 +28,29 @@ QImage Read(QImageReader& reader) {
   return image == blank ? QImage() : image;
 }
 
-SharedPicture Decode(const QString& path, QSize scaledTo) {
-  QImageReader reader(path);
+// Before it is scaled: afterwards the key's colour would stand mixed into the pixels beside it.
+QImage Keyed(const QImage& picture, QRgb key) {
+  QImage image = picture.convertToFormat(QImage::Format_ARGB32);
+  bool isKeyed = false;
+  for (int y = 0; y < image.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (QRgb& pixel : std::span(row, static_cast<std::size_t>(image.width()))) {
+      if (pixel != key) continue;
+      pixel = 0;
+      isKeyed = true;
+    }
+  }
+  return isKeyed ? image : picture;
+}
+
+SharedPicture Decode(const PictureWish& wish) {
+  QImageReader reader(wish.path);
   reader.setDecideFormatFromContent(true);
   QImage image = Read(reader);
   if (image.isNull()) return nullptr;
-  if (!scaledTo.isEmpty() && image.size() != scaledTo) {
-    image = image.scaled(scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (wish.key) image = Keyed(image, *wish.key);
+  if (!wish.size.isEmpty() && image.size() != wish.size) {
+    image = image.scaled(wish.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }
   image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
   image.setDevicePixelRatio(1);
@@ -70,9 +87,9 @@ QSGNode* PictureNode(QSGNode* old, const SharedPicture& picture, QQuickWindow* w
 
 PictureLoader::PictureLoader() { QImageReader::setAllocationLimit(kDecodedMegabytes); }
 
-void PictureLoader::Load(const QString& path, QSize size, QObject* receiver, Done done) {
-  const QFileInfo file(path);
-  const Key key{path, size, file.lastModified().toMSecsSinceEpoch(), file.size()};
+void PictureLoader::Load(const PictureWish& wish, QObject* receiver, Done done) {
+  const QFileInfo file(wish.path);
+  const Key key{wish, file.lastModified().toMSecsSinceEpoch(), file.size()};
   const auto kept = std::ranges::find(kept_, key, &Kept::key);
   if (kept != kept_.end()) {
     kept_.splice(kept_.begin(), kept_, kept);
@@ -81,7 +98,7 @@ void PictureLoader::Load(const QString& path, QSize size, QObject* receiver, Don
     return;
   }
   decoding_.Do([this, key, receiver = QPointer(receiver), done = std::move(done)]() -> Worker::HandOver {
-    return [this, key, receiver, done, picture = Decode(key.path, key.scaledTo)] {
+    return [this, key, receiver, done, picture = Decode(key.wish)] {
       if (picture) Keep(key, picture);
       if (receiver) done(picture);
     };

@@ -7,6 +7,7 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/qt/Worker.h"
@@ -26,6 +27,15 @@ struct Picture {
 
 using SharedPicture = std::shared_ptr<const Picture>;
 
+// A file, and how it is to be shown: scaled to a size unless that is empty, and see-through wherever a pixel of the
+// file has exactly the key's colour.
+struct PictureWish {
+  QString path;
+  QSize size = {};
+  std::optional<QRgb> key = {};
+  bool operator==(const PictureWish&) const = default;
+};
+
 // The node that shows a picture from the item's left top corner at its own size; null for no picture. `old` is what
 // the item's last call gave, and is spent.
 QSGNode* PictureNode(QSGNode* old, const SharedPicture& picture, QQuickWindow* window);
@@ -39,14 +49,14 @@ class PictureLoader : public QObject {
   // The end waits for the picture that is being decoded.
   PictureLoader();
 
-  // Calls `done` with the picture of a file, scaled to `size` unless that is empty: at once when it is at hand, later
-  // otherwise, and then only if `receiver` still lives. Null: the file is no picture.
-  void Load(const QString& path, QSize size, QObject* receiver, Done done);
+  // Calls `done` with the picture that is asked for: at once when it is at hand, later otherwise, and then only if
+  // `receiver` still lives. Null: the file is no picture.
+  void Load(const PictureWish& wish, QObject* receiver, Done done);
 
  private:
+  // A wish, and the file as it was then.
   struct Key {
-    QString path;
-    QSize scaledTo;
+    PictureWish wish;
     qint64 changed = 0;
     qint64 bytes = 0;
     bool operator==(const Key&) const = default;

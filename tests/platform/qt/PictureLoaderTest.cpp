@@ -10,7 +10,7 @@ namespace {
 class PictureLoaderTest : public testing::Test {
  protected:
   void Load(const std::string& path, QSize size = {}) {
-    loader->Load(QString::fromStdString(path), size, receiver.get(),
+    loader->Load({QString::fromStdString(path), size}, receiver.get(),
                  [this](SharedPicture picture) { came.push_back(std::move(picture)); });
   }
 
@@ -51,6 +51,31 @@ TEST_F(PictureLoaderTest, APictureWiderThanATextureComesInColumns) {
   EXPECT_GT(came[0]->columns.size(), 1u);
 }
 
+TEST_F(PictureLoaderTest, APixelOfExactlyTheKeysColourIsSeeThroughAndLeavesNoneOfItInTheEdges) {
+  QImage image(8, 8, QImage::Format_RGB32);
+  image.fill(qRgb(0xCC, 0xCC, 0xFF));
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 4; x < 8; ++x) image.setPixel(x, y, qRgb(0xCC, 0, 0));
+  }
+  image.setPixel(0, 0, qRgb(0xCC, 0xCC, 0xFE));
+  const QString path = QString::fromStdString(test_media::PathOf("key.png"));
+  ASSERT_TRUE(image.save(path));
+  const auto come = [this](SharedPicture picture) { came.push_back(std::move(picture)); };
+  loader->Load({path, {}, qRgb(0xCC, 0xCC, 0xFF)}, receiver.get(), come);
+  loader->Load({path, {3, 3}, qRgb(0xCC, 0xCC, 0xFF)}, receiver.get(), come);
+  loader->Load({path}, receiver.get(), come);
+  ASSERT_TRUE(Until([this] { return came.size() == 3; }));
+  const QImage& keyed = came[0]->columns[0].image;
+  EXPECT_EQ(keyed.pixelColor(0, 0), QColor(0xCC, 0xCC, 0xFE));
+  EXPECT_EQ(qAlpha(keyed.pixel(1, 1)), 0);
+  EXPECT_EQ(keyed.pixelColor(7, 7), QColor(0xCC, 0, 0));
+  const QColor edge = came[1]->columns[0].image.pixelColor(1, 2);
+  EXPECT_EQ(edge.blue(), 0);
+  EXPECT_GT(edge.alpha(), 0);
+  EXPECT_LT(edge.alpha(), 255);
+  EXPECT_EQ(came[2]->columns[0].image.pixelColor(1, 1), QColor(0xCC, 0xCC, 0xFF));
+}
+
 TEST_F(PictureLoaderTest, AFileThatIsNoPictureAndOneThatIsAbsentGiveNone) {
   Load(test_media::Text("no.png", "no picture"));
   Load(test_media::PathOf("absent.png"));
@@ -63,7 +88,7 @@ TEST_F(PictureLoaderTest, WhoHasGoneIsNotCalled) {
   Load(path);
   receiver.reset();
   bool last = false;
-  loader->Load(QString::fromStdString(path), {1, 1}, loader.get(), [&last](const SharedPicture&) { last = true; });
+  loader->Load({QString::fromStdString(path), {1, 1}}, loader.get(), [&last](const SharedPicture&) { last = true; });
   ASSERT_TRUE(Until([&last] { return last; }));
   EXPECT_TRUE(came.empty());
 }
