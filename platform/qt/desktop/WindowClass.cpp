@@ -13,3 +13,30 @@ void SetWindowClass(QWindow& window, const std::string& name) {
   XSetClassHint(display, window.winId(), &hint);
   XFlush(display);
 }
+
+// The window manager is asked, as it looks after the window from its showing on.
+void HideFromTaskbar(QWindow& window) {
+  Display* display = XDisplay();
+  if (display == nullptr || window.handle() == nullptr) return;
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = window.winId();
+  event.xclient.message_type = XInternAtom(display, "_NET_WM_STATE", 0);
+  event.xclient.format = 32;
+  event.xclient.data.l[0] = 1;  // add
+  event.xclient.data.l[1] = static_cast<long>(XInternAtom(display, "_NET_WM_STATE_SKIP_TASKBAR", 0));
+  event.xclient.data.l[2] = static_cast<long>(XInternAtom(display, "_NET_WM_STATE_SKIP_PAGER", 0));
+  event.xclient.data.l[3] = 1;  // a program asks, not a person
+  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
+  XFlush(display);
+}
+
+void SetBackground(QWindow& window, Background background) {
+  Display* display = XDisplay();
+  if (display == nullptr || window.handle() == nullptr) return;
+  if (background == Background::kTransparent) {
+    XSetWindowBackground(display, window.winId(), 0);
+  } else {
+    XSetWindowBackgroundPixmap(display, window.winId(), 0);
+  }
+}

@@ -7,3 +7,10 @@ class QWindow;
 // Gives a window its own WM_CLASS instance, the form's name, so that window managers and scripts can tell the forms
 // apart. To be called whenever the window has become a new native one, before it is shown; does nothing without X.
 void SetWindowClass(QWindow& window, const std::string& name);
+
+// Keeps a window that has just been shown out of the desktop's lists of windows. Does nothing without X.
+void HideFromTaskbar(QWindow& window);
+// What the X server fills a part of the window with that it has not been given yet: pixels that let everything through,
+// or nothing, which leaves there what was seen. Does nothing without X.
+enum class Background { kNone, kTransparent };
+void SetBackground(QWindow& window, Background background);

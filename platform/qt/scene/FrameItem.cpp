@@ -8,6 +8,7 @@
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/frames/FrameSource.h"
 #include "platform/toolkit/FlashBox.h"
+#include "platform/toolkit/Form.h"
 #include "platform/toolkit/PlayerControl.h"
 
 namespace {
@@ -20,6 +21,28 @@ FrameSource* SourceOf(Platform* platform) {
 
 }  // namespace
 
+QSGImageNode* FrameNode(QSGImageNode* old, const QImage& frame, bool& isNew, const QRectF& place,
+                        QQuickWindow& window) {
+  if (frame.isNull()) {
+    delete old;
+    return nullptr;
+  }
+  QSGImageNode* node = old;
+  if (node == nullptr) {
+    node = window.createImageNode();
+    node->setOwnsTexture(true);
+    node->setFiltering(QSGTexture::Nearest);
+    isNew = true;
+  }
+  if (std::exchange(isNew, false)) {
+    const auto kind = frame.hasAlphaChannel() ? QQuickWindow::TextureHasAlphaChannel : QQuickWindow::TextureIsOpaque;
+    node->setTexture(window.createTextureFromImage(frame, kind));
+    node->markDirty(QSGNode::DirtyMaterial);
+  }
+  node->setRect(place);
+  return node;
+}
+
 MediaItem::MediaItem(PlayerControl& player, QQuickItem& parent, Scene& scene)
     : FrameItem(player, SourceOf(player.Platform()), Back::kBlack, parent, scene) {}
 
@@ -29,15 +52,26 @@ QRectF MediaItem::Part() const {
 }
 
 FlashItem::FlashItem(FlashBox& box, QQuickItem& parent, Scene& scene)
-    : FrameItem(box, SourceOf(box.Platform()), Back::kNone, parent, scene) {}
+    : FrameItem(box, SourceOf(box.Platform()), Back::kNone, parent, scene) {
+  const auto key = [this, &form = box.Owner()] { SetKey(form.KeyInForce()); };
+  Follow(box.Owner().ExtendedStyle, key);
+  Follow(box.Owner().KeyColour, key);
+  key();
+}
 
 FrameItem::FrameItem(Control& control, FrameSource* source, Back back, QQuickItem& parent, Scene& scene)
     : ControlItem(control, parent), scene_(scene), frames_(source), back_(back) {
-  if (frames_) connect(frames_, &FrameSource::Changed, this, &FrameItem::AskForFrame);
-  connect(&parent, &QQuickItem::widthChanged, this, &FrameItem::polish);
-  connect(&parent, &QQuickItem::heightChanged, this, &FrameItem::polish);
-  connect(&parent, &QQuickItem::windowChanged, this, &FrameItem::polish);
-  polish();
+  if (frames_) {
+    connect(frames_, &FrameSource::Changed, this, &FrameItem::AskForFrame);
+    connect(frames_, &FrameSource::Renewed, this, [this] { Renewed.Raise(); });
+  }
+  placeIsDue_.setSingleShot(true);
+  connect(&placeIsDue_, &QTimer::timeout, this, &FrameItem::PlacePicture);
+  const auto due = [this] { placeIsDue_.start(0); };
+  connect(&parent, &QQuickItem::widthChanged, this, due);
+  connect(&parent, &QQuickItem::heightChanged, this, due);
+  connect(parent.window(), &QWindow::visibleChanged, this, due);
+  due();
 }
 
 void FrameItem::Detach() {
@@ -50,12 +84,12 @@ void FrameItem::Detach() {
 void FrameItem::SetCovered(bool covered) {
   if (covered == covered_) return;
   covered_ = covered;
-  polish();
+  placeIsDue_.start(0);
 }
 
 void FrameItem::geometryChange(const QRectF& now, const QRectF& before) {
   ControlItem::geometryChange(now, before);
-  polish();
+  placeIsDue_.start(0);
 }
 
 void FrameItem::itemChange(ItemChange change, const ItemChangeData& data) {
@@ -64,18 +98,22 @@ void FrameItem::itemChange(ItemChange change, const ItemChangeData& data) {
   // A surface that is hidden asks for no frames, and comes back black rather than with what it showed long ago.
   if (!data.boolValue) {
     if (frames_) frames_->SetTarget({});
-    frame_ = {};
-    frameIsNew_ = true;
-    update();
+    Show({});
   }
-  polish();
+  placeIsDue_.start(0);
 }
 
-void FrameItem::updatePolish() {
-  part_ = Part();
-  if (frames_) frames_->SetTarget(isVisible() && !covered_ ? part_.size().toSize() : QSize());
+// Not when the item is painted: a see-through window of which nothing is seen yet is never painted.
+void FrameItem::PlacePicture() {
+  if (const QRectF part = Part(); part != part_) {
+    part_ = part;
+    PictureChanged.Raise();
+  }
+  if (frames_) frames_->SetTarget(IsSeen() ? part_.size().toSize() : QSize());
   update();
 }
+
+bool FrameItem::IsSeen() const { return isVisible() && !covered_ && window() != nullptr && window()->isVisible(); }
 
 void FrameItem::AskForFrame() {
   if (std::exchange(asked_, true)) return;
@@ -87,11 +125,19 @@ void FrameItem::AskForFrame() {
 void FrameItem::TakeFrame() {
   asked_ = false;
   if (!frames_) return;
-  if (const auto frame = frames_->Take()) {
-    frame_ = *frame;
-    frameIsNew_ = true;
-    update();
-  }
+  if (const auto frame = frames_->Take()) Show(*frame);
+}
+
+void FrameItem::Show(const QImage& frame) {
+  frame_ = frame;
+  frameIsNew_ = true;
+  update();
+  PictureChanged.Raise();
+}
+
+void FrameItem::SetKey(const std::optional<Colour>& key) {
+  if (!frames_) return;
+  frames_->SetKey(key ? std::optional(qRgb(key->red, key->green, key->blue)) : std::nullopt);
 }
 
 QSGNode* FrameItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
@@ -107,22 +153,5 @@ QSGNode* FrameItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 }
 
 QSGImageNode* FrameItem::PictureNode(QSGImageNode* old) {
-  if (frame_.isNull()) {
-    delete old;
-    return nullptr;
-  }
-  QSGImageNode* node = old;
-  if (node == nullptr) {
-    node = window()->createImageNode();
-    node->setOwnsTexture(true);
-    node->setFiltering(QSGTexture::Nearest);
-    frameIsNew_ = true;
-  }
-  if (std::exchange(frameIsNew_, false)) {
-    const auto kind = back_ == Back::kBlack ? QQuickWindow::TextureIsOpaque : QQuickWindow::TextureHasAlphaChannel;
-    node->setTexture(window()->createTextureFromImage(frame_, kind));
-    node->markDirty(QSGNode::DirtyMaterial);
-  }
-  node->setRect(part_);
-  return node;
+  return FrameNode(old, frame_, frameIsNew_, part_, *window());
 }

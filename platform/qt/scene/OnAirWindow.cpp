@@ -15,6 +15,7 @@
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/SceneItems.h"
+#include "platform/qt/scene/Sheet.h"
 #include "platform/toolkit/Form.h"
 
 namespace {
@@ -60,7 +61,6 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   QSurfaceFormat format = window_->format();
   format.setAlphaBufferSize(0);
   window_->setFormat(format);
-  window_->setColor(Qt::black);
   window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint);
   window_->setProperty("_q_showWithoutActivating", true);
   window_->installEventFilter(this);
@@ -80,8 +80,8 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
     }
   }
   coverIsDue_.start(0);
+  if (!HasFrame()) sheet_ = std::make_unique<Sheet>(*window_, items_, scene.stack);
   connect(window_, &QWindow::screenChanged, this, &OnAirWindow::FollowScreen);
-  FollowScreen(window_->screen());
 
   for (QTimer* timer : {&placeIsDue_, &coverIsDue_, &settled_}) timer->setSingleShot(true);
   settled_.setInterval(kToSettle);
@@ -95,25 +95,26 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   const auto onTop = [this] {
     window_->setFlag(Qt::WindowStaysOnTopHint, form_.OnTop);
     if (form_.OnTop) window_->raise();
+    if (sheet_) sheet_->SetOnTop(form_.OnTop);
   };
-  const auto visible = [this] {
-    ApplyPlace();
-    window_->create();
-    window_->setVisible(form_.Visible);
-    SetWindowClass(*window_, form_.Name());  // showing may have made the native window anew
-  };
+  const auto visible = [this] { ApplyVisible(); };
+  const auto style = [this] { ApplyStyle(); };
   following_.push_back(form.Pointer.Changed.Subscribe([this] { window_->setCursor(ShapeOf(form_.Pointer)); }));
   following_.push_back(form.Caption.Changed.Subscribe(title));
   following_.push_back(form.OnTop.Changed.Subscribe(onTop));
   following_.push_back(form.Visible.Changed.Subscribe(visible));
-  following_.push_back(form.ShowAsked.Subscribe([this] { window_->raise(); }));
+  following_.push_back(form.ShowAsked.Subscribe([this] { ComeForward(); }));
+  following_.push_back(form.BackColor.Changed.Subscribe(style));
+  following_.push_back(form.ExtendedStyle.Changed.Subscribe(style));
   title();
+  style();
   onTop();
   visible();
 }
 
 // The form may be unloaded by what the window is handling this very moment.
 OnAirWindow::~OnAirWindow() {
+  sheet_.reset();
   for (ControlItem* item : items_) item->Detach();
   window_->removeEventFilter(this);
   window_->hide();
@@ -137,6 +138,46 @@ void OnAirWindow::Mirror(const std::vector<Control*>& controls, QQuickItem& pare
   }
 }
 
+void OnAirWindow::ApplyVisible() {
+  ApplyPlace();
+  window_->create();
+  if (sheet_) sheet_->SetShown(form_.Visible);
+  window_->setVisible(form_.Visible);
+  SetWindowClass(*window_, form_.Name());  // showing may have made the native window anew
+  if (form_.Visible && hasAlpha_) HideFromTaskbar(*window_);
+  FollowScreen();
+}
+
+bool OnAirWindow::IsSeeThrough() const { return (form_.ExtendedStyle & kLayered) != 0; }
+
+void OnAirWindow::ApplyStyle() {
+  const Colour back = form_.BackColor;
+  window_->setColor(IsSeeThrough() ? QColor(Qt::transparent) : QColor(back.red, back.green, back.blue));
+  if (IsSeeThrough() && !hasAlpha_) GiveAlpha();
+  if (sheet_) sheet_->SetSeeThrough(IsSeeThrough());
+}
+
+// A native window has an alpha channel from its beginning or never. One that has been given it keeps it: it is painted
+// opaque where its form is. Nobody types into such a window, or looks for it in a list of windows.
+void OnAirWindow::GiveAlpha() {
+  hasAlpha_ = true;
+  QSurfaceFormat format = window_->requestedFormat();
+  format.setAlphaBufferSize(8);
+  window_->setFormat(format);
+  window_->setFlag(Qt::WindowDoesNotAcceptFocus);
+  const bool wasShown = window_->isVisible();
+  window_->destroy();
+  window_->create();
+  SetWindowClass(*window_, form_.Name());
+  if (sheet_) sheet_->SetSeeThrough(true);  // before it comes up again
+  if (wasShown) ApplyVisible();
+}
+
+void OnAirWindow::ComeForward() {
+  window_->raise();
+  if (sheet_) sheet_->ComeForward();
+}
+
 // A player behind an online channel plays on for hours: its picture need not be made meanwhile. Every pane is opaque.
 void OnAirWindow::FindCovered() {
   QRegion front;
@@ -148,9 +189,10 @@ void OnAirWindow::FindCovered() {
   }
 }
 
-// The viewers' display gives the rate; a preview stands on the operator's.
-void OnAirWindow::FollowScreen(QScreen* screen) {
-  if (!HasFrame() && screen != nullptr) scene_.scheduler.SetFrameRate(screen->refreshRate());
+// The viewers' display gives the rate. A preview stands on the operator's; so may an overlay.
+void OnAirWindow::FollowScreen() {
+  const bool isOutput = sheet_ && scene_.stack.IsLargest(*sheet_);
+  if (isOutput && window_->screen() != nullptr) scene_.scheduler.SetFrameRate(window_->screen()->refreshRate());
 }
 
 bool OnAirWindow::HasFrame() const { return form_.Type() == Form::Kind::kPreview; }
@@ -219,6 +261,7 @@ void OnAirWindow::EndDrag() {
 }
 
 bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
+  if (sheet_ && sheet_->PassOn(*event)) return true;
   switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
@@ -230,6 +273,7 @@ bool OnAirWindow::eventFilter(QObject* object, QEvent* event) {
       return true;  // the form, and with it this object, may be gone
     case QEvent::MouseButtonPress:
       pressedAt_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+      if (IsSeeThrough()) ComeForward();
       break;
     case QEvent::MouseMove:
       if (!drag_.move) break;

@@ -5,6 +5,7 @@
 #include <QPoint>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/Windows.h"
@@ -14,7 +15,7 @@
 class ControlItem;
 class QQuickItem;
 class QQuickWindow;
-class QScreen;
+class Sheet;
 
 // The real window behind an on-air form: borderless, one scene that mirrors the form's panes. It never takes the
 // keyboard by being shown. That of a preview has the desktop's own frame around it: what the form calls its place is
@@ -46,9 +47,14 @@ class OnAirWindow : public QObject, public FormWindow {
   };
 
   void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
-  void FollowScreen(QScreen* screen);  // ticks come at the rate of the display that the window is on
+  void FollowScreen();  // ticks come at the rate of the display that the window is on
   void FindCovered();
   bool HasFrame() const;
+  void ApplyVisible();
+  bool IsSeeThrough() const;
+  void ApplyStyle();
+  void GiveAlpha();
+  void ComeForward();
   QRect WantedPlace();
   void ApplyPlace();
   void AdoptPlace();
@@ -59,6 +65,8 @@ class OnAirWindow : public QObject, public FormWindow {
   QQuickWindow* window_;  // outlives this object until the event that it may be handling is over
   std::vector<ControlItem*> items_;
   std::vector<ControlItem*> panes_;  // those directly on the form, front to back
+  std::unique_ptr<Sheet> sheet_;     // its place among the on-air windows; none with HasFrame
+  bool hasAlpha_ = false;            // of the native window
   std::vector<Subscription> following_;
   QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
   QTimer coverIsDue_;  // finds out, likewise once, which panes are hidden by others

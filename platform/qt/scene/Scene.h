@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/scene/OnAirStack.h"
+
 class PictureLoader;
 class QtScheduler;
 
@@ -7,4 +9,5 @@ class QtScheduler;
 struct Scene {
   QtScheduler& scheduler;
   PictureLoader& pictures;
+  OnAirStack stack{};
 };

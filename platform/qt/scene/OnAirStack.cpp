@@ -1,0 +1,67 @@
+#include "platform/qt/scene/OnAirStack.h"
+
+#include <algorithm>
+#include <map>
+#include <ranges>
+
+#include "platform/qt/scene/Sheet.h"
+
+OnAirStack::OnAirStack() {
+  arrangeIsDue_.setSingleShot(true);
+  connect(&arrangeIsDue_, &QTimer::timeout, this, &OnAirStack::Arrange);
+  connect(&compositor_, &Compositor::Changed, this, &OnAirStack::Arrange);
+}
+
+void OnAirStack::Add(Sheet& sheet) {
+  sheets_.insert(sheets_.begin(), &sheet);
+  ArrangeSoon();
+}
+
+void OnAirStack::Remove(Sheet& sheet) {
+  std::erase(sheets_, &sheet);
+  ArrangeSoon();
+}
+
+void OnAirStack::ComeForward(Sheet& sheet) {
+  Remove(sheet);
+  Add(sheet);
+}
+
+std::vector<Sheet*> OnAirStack::Shown() const {
+  std::vector<Sheet*> shown;
+  std::ranges::copy_if(sheets_, std::back_inserter(shown), &Sheet::IsShown);
+  std::ranges::stable_partition(shown, &Sheet::IsOnTop);
+  return shown;
+}
+
+bool OnAirStack::IsLargest(const Sheet& sheet) const {
+  const auto areaOf = [](const Sheet* one) { return one->Place().width() * one->Place().height(); };
+  return !sheet.IsSeeThrough() && std::ranges::none_of(sheets_, [&](const Sheet* other) {
+    return !other->IsSeeThrough() && areaOf(other) > areaOf(&sheet);
+  });
+}
+
+void OnAirStack::Arrange() {
+  arrangeIsDue_.stop();
+  const std::vector<Sheet*> shown = Shown();
+  const auto isGlass = [this](const Sheet* sheet) { return sheet->IsSeeThrough() && !compositor_.Runs(); };
+  std::map<const Sheet*, QRegion> opaqueBehind;
+  QRegion opaque;
+  for (Sheet* sheet : std::views::reverse(shown)) {
+    opaqueBehind[sheet] = opaque;
+    if (!sheet->IsSeeThrough()) opaque += sheet->Place();
+  }
+  std::vector<Sheet*> glass;
+  QRegion glassInFront;
+  for (Sheet* sheet : shown) {
+    if (isGlass(sheet)) {
+      sheet->BeCut({opaqueBehind[sheet], glassInFront});
+      glass.push_back(sheet);
+      glassInFront += sheet->Place();
+    } else if (sheet->IsSeeThrough()) {
+      sheet->BeWhole();
+    } else {
+      sheet->PaintGlass(glass);
+    }
+  }
+}
