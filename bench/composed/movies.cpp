@@ -1,9 +1,10 @@
-// movies_on_air CLIP [MOVIE LEFT TOP WIDTH HEIGHT]...: a clip over the whole screen, again and again, with movies over
-// it; their places in pixels.
+// movies_on_air [--overlays] CLIP [MOVIE LEFT TOP WIDTH HEIGHT]...: a clip over the whole screen, again and again, with
+// movies or pictures over it; their places in pixels. With --overlays each stands in a see-through window of its own.
 
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Windows.h"
@@ -17,6 +18,42 @@
 namespace {
 
 std::vector<std::string> arguments;
+bool inOverlays = false;
+constexpr std::size_t kMostOverlays = 9;
+
+// The number of movies, and one measure of one of them.
+std::size_t Movies() { return (arguments.size() - 1) / 5; }
+Twips Measure(std::size_t movie, std::size_t which) {
+  return std::stod(arguments[movie * 5 + 2 + which]) * kTwipsPerPixel;
+}
+const std::string& Path(std::size_t movie) { return arguments[movie * 5 + 1]; }
+
+void Place(std::size_t movie, auto& what) {
+  what.Left = Measure(movie, 0);
+  what.Top = Measure(movie, 1);
+  what.Width = Measure(movie, 2);
+  what.Height = Measure(movie, 3);
+}
+
+template <std::size_t kMovie>
+class frmOverlay : public Form {
+ public:
+  explicit frmOverlay(Station& station) : Form(station.forms, "frmOverlay" + std::to_string(kMovie), Kind::kOnAir) {
+    Place(kMovie, *this);
+    Flash.Width = Width.Get();
+    Flash.Height = Height.Get();
+    Flash.Movie = Path(kMovie);
+    OnTop = true;
+    ExtendedStyle = kLayered;
+    Visible = true;
+  }
+  FlashBox Flash{*this, "Flash"};
+};
+
+template <std::size_t... kMovies>
+void ShowOverlays(Station& station, std::index_sequence<kMovies...>) {
+  ((kMovies < Movies() ? void(station.forms.Get<frmOverlay<kMovies>>()) : void()), ...);
+}
 
 class frmBench : public Form {
  public:
@@ -24,14 +61,10 @@ class frmBench : public Form {
     const PixelSize screen = Outside().windows.ScreenSize();
     Width = screen.width * kTwipsPerPixel;
     Height = screen.height * kTwipsPerPixel;
-    for (std::size_t i = 1; i + 4 < arguments.size(); i += 5) {
+    for (std::size_t i = 0; i < Movies() && !inOverlays; ++i) {
       FlashBox& box = boxes_.emplace_back(*this, "Flash" + std::to_string(i));
-      const auto twips = [&](std::size_t at) { return std::stod(arguments[i + at]) * kTwipsPerPixel; };
-      box.Left = twips(1);
-      box.Top = twips(2);
-      box.Width = twips(3);
-      box.Height = twips(4);
-      box.Movie = arguments[i];
+      Place(i, box);
+      box.Movie = Path(i);
     }
     player_.emplace(*this, "Player");
     player_->Width = Width.Get();
@@ -54,8 +87,11 @@ class frmBench : public Form {
 int main(int argc, char** argv) {
   QtWorld outside;
   arguments.assign(argv + 1, argv + argc);
+  inOverlays = !arguments.empty() && arguments[0] == "--overlays";
+  if (inOverlays) arguments.erase(arguments.begin());
   if (arguments.empty()) return 2;
   Station station(outside.world, outside.ProgramFolder());
   station.forms.Get<frmBench>();
+  if (inOverlays) ShowOverlays(station, std::make_index_sequence<kMostOverlays>());
   return outside.Run();
 }

@@ -80,6 +80,7 @@ XCreateSimpleWindow = declare("XCreateSimpleWindow", Window, Pointer, Window, ct
                               ctypes.c_uint, ctypes.c_uint, ctypes.c_ulong, ctypes.c_ulong)
 XChangeProperty = declare("XChangeProperty", ctypes.c_int, Pointer, Window, Atom, Atom, ctypes.c_int, ctypes.c_int,
                           Pointer, ctypes.c_int)
+XSetSelectionOwner = declare("XSetSelectionOwner", ctypes.c_int, Pointer, Atom, Window, ctypes.c_ulong)
 XMapWindow = declare("XMapWindow", ctypes.c_int, Pointer, Window)
 XFree = declare("XFree", ctypes.c_int, Pointer)
 XFlush = declare("XFlush", ctypes.c_int, Pointer)
