@@ -125,10 +125,10 @@ void DrawnView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// The current row is the list's to say.
+// The view would make the first row its own current one.
 void DrawnView::focusInEvent(QFocusEvent* event) {
-  QAbstractScrollArea::focusInEvent(event);
-  viewport()->update();
+  QListView::focusInEvent(event);
+  if (list_ != nullptr) setCurrentIndex(model()->index(list_->CurrentRow(), 0));
 }
 
 void DrawnView::paintEvent(QPaintEvent* event) {
