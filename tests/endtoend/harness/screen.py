@@ -109,6 +109,16 @@ class Screen:
     def click(self, x, y):
         self._do("mousemove", str(x), str(y), "click", "1")
 
+    def drag(self, start, end, button=1):
+        """Presses at one place, moves in steps to the other, and lets go there."""
+        steps = 8
+        path = [[a + (b - a) * step // steps for a, b in zip(start, end)] for step in range(steps + 1)]
+        moves = [["mousemove", *map(str, place)] for place in path]
+        self._do(*moves[0], "mousedown", str(button))
+        for move in moves[1:]:
+            self._do(*move)
+        self._do("mouseup", str(button))
+
     def point_at(self, x, y):
         self._do("mousemove", str(x), str(y))
 
