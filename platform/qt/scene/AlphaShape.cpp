@@ -83,11 +83,13 @@ void LastingShape::Take(const QImage& picture) {
     least_ = picture.isNull() ? QImage() : QImage(picture.size(), QImage::Format_Alpha8);
     least_.fill(255);
   }
+  if (picture.isNull()) region_ = {};
   if (picture.hasAlphaChannel()) Lessen(least_, picture);
 }
 
 QRegion LastingShape::Region() {
-  if (!isSettled_ && region_.isEmpty()) return region_;
+  const bool isKnown = !least_.isNull() && (isSettled_ || !region_.isEmpty());
+  if (!isKnown) return region_;
   const QRegion now = AlphaShape(least_, 255);
   region_ = isSettled_ ? now : region_ & now;
   return region_;
