@@ -291,7 +291,9 @@ def breaking_news(width=1030, height=60, rate=25, hold=75, speed=5, longest=8000
     it passes as far as the longest one. The last frames show no text: there the next one is asked for."""
     label, begin, enter, end = 170, 186, 25, 12
     size = round(height * 0.52)
-    characters = box(1, 0, 0, width, height, (150, 10, 20, 255)) + box(2, 0, 0, label, height, (90, 0, 10, 255)) + font(3)
+    # Where the strip has not the movie's shape, what lies beside the stage is seen as well.
+    characters = box(1, -width, 0, 3 * width, height, (150, 10, 20, 255))
+    characters += box(2, -width, 0, label + width, height, (90, 0, 10, 255)) + font(3)
     characters += text(4, 3, label, size + 12, height * 0.43, WHITE, "BREAKING")
     characters += text(5, 3, longest, size + 16, size, WHITE, "", "text1", LEFT)
     top = (height - size - 12) / 2
@@ -310,7 +312,7 @@ def breaking_news(width=1030, height=60, rate=25, hold=75, speed=5, longest=8000
         tags += actions(has_gone + NOT + action(0x9D, struct.pack("<h", len(to_the_end))) + to_the_end)
         tags += move(2, matrix(begin - passed, top)) + SHOW
     # The line stays on the stage, out of sight: one that were placed anew would have lost its text.
-    tags += move(2, matrix(0, 2 * height)) + SHOW * end
+    tags += move(2, matrix(0, 20 * width)) + SHOW * end
     return movie(width, height, rate, last + end, tags, background=(150, 10, 20))
 
 
