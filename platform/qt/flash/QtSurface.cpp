@@ -32,6 +32,7 @@ void QtSurface::Put(const std::string& path) {
   ++pictureWish_;
   const auto header = ReadMovieHeader(path);
   totalFrames_ = header ? header->frameCount : 0;
+  stage_ = header ? QSize(header->width, header->height) : QSize();
   waits_ = header.has_value();
   const QString name = QString::fromStdString(path);
   isPicture_ = !header && QFileInfo(name).isFile() && QImageReader(name).canRead();
@@ -200,8 +201,26 @@ void QtSurface::Offer(const QImage& picture) {
   emit frames_.Changed();
 }
 
+// The leader's picture fills the leader's rectangle; what keeps the movie's proportions gives them back to it.
 void QtSurface::ShowScaled(const QImage& picture) {
-  if (!target_.isEmpty()) Offer(picture.scaled(target_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  using Fit = FlashLooks::Fit;
+  if (target_.isEmpty()) return;
+  const bool isStretched = leader_->begunLooks_.fit == Fit::kFill && !stage_.isEmpty();
+  if (looks_.fit == Fit::kFill || !isStretched) {
+    return Offer(picture.scaled(target_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  }
+  QImage whole(target_, QImage::Format_ARGB32_Premultiplied);
+  whole.fill(Qt::transparent);
+  QPainter painter(&whole);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(Centred(stage_), picture);
+  painter.end();
+  Offer(whole);
+}
+
+QRect QtSurface::Centred(QSize size) const {
+  const QSize kept = size.scaled(target_, Qt::KeepAspectRatio);
+  return {QPoint((target_.width() - kept.width()) / 2, (target_.height() - kept.height()) / 2), kept};
 }
 
 // Pictures need no browser. While nobody sees the surface none is decoded.
@@ -209,10 +228,7 @@ void QtSurface::LoadPicture() {
   if (target_.isEmpty()) return;
   const QString path = QString::fromStdString(path_);
   QRect place({0, 0}, target_);
-  if (looks_.fit == FlashLooks::Fit::kKeepProportions) {
-    const QSize size = QImageReader(path).size().scaled(target_, Qt::KeepAspectRatio);
-    place = QRect(QPoint((target_.width() - size.width()) / 2, (target_.height() - size.height()) / 2), size);
-  }
+  if (looks_.fit == FlashLooks::Fit::kKeepProportions) place = Centred(QImageReader(path).size());
   const auto show = [this, place, wish = ++pictureWish_](const SharedPicture& picture) {
     if (wish == pictureWish_ && picture) ShowPicture(picture, place);
   };

@@ -62,6 +62,8 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   void LoadPicture();
   void ShowPicture(const SharedPicture& picture, QRect place);
   void ShowScaled(const QImage& picture);
+  // Where something of that size stands with its proportions, in the middle of the target.
+  QRect Centred(QSize size) const;
   void Offer(const QImage& picture);
   void Leave();
   void EndMovie();
@@ -74,6 +76,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   std::string path_;  // what was put last
   FlashLooks looks_;
   int totalFrames_ = 0;
+  QSize stage_;  // of the movie
   std::vector<std::pair<std::string, std::string>> variables_;
   bool waits_ = false;      // a movie that was put is not begun yet
   bool isPicture_ = false;  // what was put last is a picture
