@@ -28,6 +28,8 @@ MovieRotation::MovieRotation(Station& station, const RotationKind& kind)
   FolderList.Mode = McListBox::kFolders;
   LookLikeTheDesk(FolderList);
   File.Pattern = "*.swf";
+  // The machine's sound goes on the air.
+  FlashPreview.Silent = true;
   lblFlashFrm.Caption = "Preview";
   TimerFlash.Tick.Connect([this] { TimerFlash_Tick(); });
   File.Click.Connect([this] { File_Click(); });

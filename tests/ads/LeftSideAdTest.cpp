@@ -33,6 +33,11 @@ TEST_F(LeftSideAdTest, ThePreviewDecidesWhateverTheColumnCounts) {
   EXPECT_EQ(Aired(), (Names{"a.swf", "b.swf"}));
 }
 
+TEST_F(LeftSideAdTest, TheColumnSoundsAndThePreviewIsSilent) {
+  EXPECT_TRUE(Desk().FlashPreview.Silent);
+  EXPECT_FALSE(Output().FlashSideAd.Silent);
+}
+
 TEST_F(LeftSideAdTest, TheColumnIsPutOnlyWhereItDiffersAndAnOutputWindowMadeAnewFollowsAtTheNextTick) {
   Movie("Sweets", "a.swf");
   RunWith("Sweets");
