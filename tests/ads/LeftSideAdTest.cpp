@@ -1,6 +1,4 @@
 // What the column at the left of the picture does otherwise than the flash ad.
-#include <malloc.h>
-
 #include "tests/ads/MovieRotationTest.h"
 
 using namespace std::chrono_literals;
@@ -232,20 +230,6 @@ TEST_F(LeftSideAdTest, AStartWithTheAdOffLeavesItsFormUnloaded) {
   ControlWindow();
   EXPECT_FALSE(station.forms.Loaded<frmLeftSideAdSett>());
   EXPECT_FALSE(Output().PicSide.Visible);
-}
-
-TEST_F(LeftSideAdTest, FortyEightHoursOfRotationLeakNothing) {
-  for (const char* name : {"a.swf", "b.swf", "c.swf"}) sim.flash.SetMovie(Movie("Sweets", name), 25, 5);
-  RunWith("Sweets");
-  const auto pass = [this](int hours) {
-    for (int hour = 0; hour < hours; ++hour) {
-      Advance(1h);
-      EXPECT_GT(Aired().size(), 700u);
-    }
-    return mallinfo2().uordblks;
-  };
-  const std::size_t before = pass(1);
-  EXPECT_LE(pass(47), before + 4096);
 }
 
 }  // namespace

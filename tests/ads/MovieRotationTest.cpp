@@ -1,6 +1,8 @@
 // What both rotations do alike: the movies on the air, and the desk of their library.
 #include "tests/ads/MovieRotationTest.h"
 
+#include <malloc.h>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -211,6 +213,39 @@ TYPED_TEST(MovieRotationTest, ALibraryThatVanishesInTheMiddleStopsNothingAndCome
   for (const char* name : {"a.swf", "b.swf"}) this->Movie("Sweets", name);
   this->Advance(10s);
   EXPECT_EQ(this->Desk().lblFlashFrm.Caption.Get().substr(this->Desk().lblFlashFrm.Caption.Get().find(' ')), " Of 100");
+}
+
+TYPED_TEST(MovieRotationTest, ACategoryOfEveryLegalSignIsPickedRotatesAndIsBackAfterARestart) {
+  for (const char* name :
+       {"  two  blanks ", "[50%] & \"more\" *?;'|<>:#=", "a<%S%>b", "\"quoted\"", "\xD8\xAE\xD8\xA8\xD8\xB1"}) {
+    SCOPED_TRACE(name);
+    this->Movie(name, "a.swf");
+    this->Store("Show", "True");
+    this->Desk();
+    this->ListLibrary();
+    this->Desk().FolderList.Refresh();
+    this->PickCategory(name);
+    EXPECT_EQ(this->Listed(), Names{"a.swf"});
+    Station again{this->sim.world, "/station"};
+    again.stores.SettingsFile();
+    auto& form = again.forms.template Get<typename TypeParam::Desk>();
+    this->Advance(1s);
+    EXPECT_EQ(form.SelectedPath, this->Category(name) + "/a.swf");
+  }
+}
+
+TYPED_TEST(MovieRotationTest, FortyEightHoursOfRotationLeakNothing) {
+  for (const char* name : {"a.swf", "b.swf", "c.swf"}) this->sim.flash.SetMovie(this->Movie("Sweets", name), 25, 5);
+  this->RunWith("Sweets");
+  const auto pass = [this](int hours) {
+    for (int hour = 0; hour < hours; ++hour) {
+      this->Advance(1h);
+      EXPECT_GT(this->Aired().size(), 700u);
+    }
+    return mallinfo2().uordblks;
+  };
+  const std::size_t before = pass(1);
+  EXPECT_LE(pass(47), before + 4096);
 }
 
 // The desk.
