@@ -14,6 +14,8 @@ namespace {
 constexpr int kFramesBeforeTheEnd = 3;
 
 constexpr int kSliderStep = 1000;
+// Twips; as large as window and column come up, so that a slider at rest tells the truth.
+constexpr int kSizeAtFirst = 3000;
 
 }  // namespace
 
@@ -86,7 +88,7 @@ void MovieRotation::LoadSlider(Slider& slider, const char* key) {
 void MovieRotation::ConnectSlider(Slider& slider, const char* key, int PixelSize::*screen) {
   slider.Min = 2000;
   slider.Max = 40400;
-  slider.Value = slider.Min.Get();
+  slider.Value = kSizeAtFirst;
   slider.LargeChange = kSliderStep;
   slider.Scroll.Connect([this, &slider, key, screen] { TurnSlider(slider, key, screen); });
 }

@@ -48,6 +48,14 @@ TEST_F(FlashAdTest, TheSlidersSetTheSizeOfTheWindowHeightFirst) {
   EXPECT_EQ(Stored("Width"), "6000");
 }
 
+TEST_F(FlashAdTest, BeforeAnySizeIsStoredTheSlidersStandAtThatOfTheWindowAndOneMoveLeavesTheOtherMeasure) {
+  const double width = Window().Width;
+  EXPECT_EQ(Desk().SlidWidth.Value.Get(), width);
+  Desk().sldHeight.Move(5000);
+  EXPECT_EQ(Window().Height.Get(), 5000);
+  EXPECT_EQ(Window().Width.Get(), width);
+}
+
 TEST_F(FlashAdTest, AWidthBeyondSixteenBitsIsStoredAndLeavesTheWindowAsItIs) {
   sim.windows.screenSize = {3840, 1080};
   frmFlashAdSett& desk = Desk();

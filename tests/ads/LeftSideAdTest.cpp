@@ -66,7 +66,7 @@ TEST_F(LeftSideAdTest, WithTheAdSwitchedOffAtTheStartWidthAndCategoryAreNotLoade
   Store("LastPath", Category("Sweets"));
   const double width = Output().PicSide.Width;
   frmLeftSideAdSett& form = Desk();
-  EXPECT_EQ(form.SlidWidth.Value.Get(), 2000);
+  EXPECT_EQ(form.SlidWidth.Value.Get(), width);
   EXPECT_EQ(Output().PicSide.Width.Get(), width);
   EXPECT_EQ(form.File.Path.Get(), "");
   EXPECT_FALSE(Output().PicSide.Visible);
