@@ -182,16 +182,19 @@ TEST_F(RuffleTest, TheOldMovieStaysUntilTheNewOneIsThere) {
   EXPECT_TRUE(Until([&] { return seen->picture.isNull() || seen->picture.pixelColor(100, 50).alpha() == 0; }));
 }
 
-// What follows is cut off: it gives neither a first frame nor an error.
-TEST_F(RuffleTest, TheOldMovieStandsStillWhileTheNextOneComes) {
+// What follows takes something from a movie that is not there: it gives neither a first frame nor an error.
+TEST_F(RuffleTest, TheOldMovieStandsStillWhileTheNextOneComesAndGoesOnWhereNoneDoes) {
   const auto seen = Opaque();
   seen->surface->Put(File("changes.swf", Blinking(), {.frameCount = 2}));
   ASSERT_TRUE(Until([&] { return seen->pictures > 5; }));
-  seen->surface->Put(test_media::Text("cut.swf", Plain(Shows(20)).substr(0, 40)));
+  const std::string_view nobody("missing.swf\0\1\0\1\0\1\0x\0", 20);
+  seen->surface->Put(File("waits.swf", Background(0, 0, 255) + swf::WriteTag(71, std::string(nobody)) + Shows(20)));
   Pass(500ms);
   const int pictures = seen->pictures;
   Pass(500ms);
   EXPECT_EQ(seen->pictures, pictures);
+  EXPECT_TRUE(Until([&] { return seen->pictures > pictures + 5; }))
+      << "nothing came, and what was there stands for good";
 }
 
 TEST_F(RuffleTest, AVariableReachesTheTextOfAMovieOfEveryVersion) {
