@@ -1,0 +1,84 @@
+#!/usr/bin/python3
+"""first_overlay.py [ROUNDS]: how long an overlay takes from the click on its menu entry to the first pixel of its movie,
+over a 1080p clip under the crawler's band: the first one, which starts the program that plays movies, and one more
+when that runs. Beside it the late ticks of the crawl while they come up, and as many seconds without."""
+
+import statistics
+import subprocess
+import sys
+import time
+
+from composed import clip, picture
+from crawl import counts
+from harness import ini, media
+from harness.desk import Desk
+from harness.patience import until
+from harness.reader import Reader
+from whole_station import put, stage, window
+
+import movies  # the station's own, which the demo makes
+
+SECONDS = 4
+# Section, form, menu entries, colour, and place (left, top, width, height in pixels).
+OVERLAYS = [
+    ("Logo", "FrmLogoShow", ("Logo", "Show logo"), "yellow", (40, 40, 200, 150)),
+    ("Clock", "frmClockShow", ("Clock", "Show clock"), "magenta", (300, 40, 200, 150)),
+]
+
+
+def station_on(desk):
+    station = stage(desk, "station", {"AdSettings": {"Show": "True", "LastAd": "1"}, "Settings": {"StartUp": "1"}})
+    station.crawler_ad("ad", picture("header.jpg", "1920x40"), picture("scroll.jpg", "6000x90"), header_height=600)
+    windows = {"frmPlayer": window(0, 0, 1920, 1080)}
+    for section, form, _, colour, place in OVERLAYS:
+        movie = put(station.folder / "Media" / section / "movie.swf", movies.plain(media.COLOURS[colour], 250))
+        station.change(section, Path=movie, Left=window(*place)["Left"])
+        windows[form] = window(*place)
+    ini.write(station.folder / "Window.ini", windows)
+    return station
+
+
+def late_of(heard, seconds):
+    """Late ticks in the next seconds."""
+    before = counts(heard)[1]
+    time.sleep(seconds)
+    return counts(heard)[1] - before
+
+
+def a_round(number):
+    """Seconds to the first and the second overlay, late ticks while they came, and in as long without."""
+    with Desk(1920, 1080) as desk:
+        station = station_on(desk)
+        heard = desk.folder / "heard.txt"
+        with open(heard, "wb") as out:
+            program = subprocess.Popen([station.program], stdout=out, env=desk.environment, cwd="/")
+        until("the control window", station.control)
+        time.sleep(8)
+        reader = Reader(desk.screen)
+        took, quiet = [], late_of(heard, 2 * SECONDS)
+        late = 0
+        for _, _, (menu, entry), colour, (left, top, width, height) in OVERLAYS:
+            reader.press(menu, "menu item")
+            before = counts(heard)[1]
+            reader.press(entry, "menu item")
+            clicked = time.monotonic()
+            middle = left + width // 2, top + height // 2
+            until(f"{colour} over the picture", lambda: media.name_of(desk.screen.pixel(*middle)) == colour, pause=0.005)
+            took.append(time.monotonic() - clicked)
+            time.sleep(max(0.0, SECONDS - took[-1]))
+            late += counts(heard)[1] - before
+        program.kill()
+        program.wait()
+    print(f"round {number}: first {took[0]:.2f} s, next {took[1]:.2f} s; late ticks {late}, without {quiet}", flush=True)
+    return took
+
+
+def main():
+    rounds = int(sys.argv[1]) if len(sys.argv) > 1 else 5
+    seen = [a_round(number + 1) for number in range(rounds)]
+    for name, times in zip(("first", "next"), zip(*seen)):
+        print(f"{name:6} {statistics.median(times):.2f} s in the middle, {max(times):.2f} s at the longest")
+
+
+if __name__ == "__main__":
+    main()
