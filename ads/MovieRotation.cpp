@@ -1,8 +1,7 @@
 #include "ads/MovieRotation.h"
 
-#include <algorithm>
-
 #include "controls/DeskLists.h"
+#include "overlay/SizeSliders.h"
 #include "platform/Files.h"
 #include "platform/Windows.h"
 #include "platform/toolkit/Failures.h"
@@ -13,9 +12,9 @@ namespace {
 // A movie is over so many frames before its last one.
 constexpr int kFramesBeforeTheEnd = 3;
 
-constexpr int kSliderStep = 1000;
-// Twips; as large as window and column come up, so that a slider at rest tells the truth.
-constexpr int kSizeAtFirst = 3000;
+// Twips; the range of a slider until its first move.
+constexpr int kSmallest = 2000;
+constexpr int kLargest = 40400;
 
 }  // namespace
 
@@ -86,17 +85,12 @@ void MovieRotation::LoadSlider(Slider& slider, const char* key) {
 }
 
 void MovieRotation::ConnectSlider(Slider& slider, const char* key, int PixelSize::*screen) {
-  slider.Min = 2000;
-  slider.Max = 40400;
-  slider.Value = kSizeAtFirst;
-  slider.LargeChange = kSliderStep;
+  BeginSizeSlider(slider, kSmallest, kLargest);
   slider.Scroll.Connect([this, &slider, key, screen] { TurnSlider(slider, key, screen); });
 }
 
-// The range of the design holds until the first move: from then on nothing can be larger than the screen.
 void MovieRotation::TurnSlider(Slider& slider, const char* key, int PixelSize::*screen) {
-  slider.Max = static_cast<int>(ToTwips(Outside().windows.ScreenSize().*screen));
-  slider.Value = std::min(slider.Value.Get(), slider.Max.Get());
+  EndAtScreen(slider, Outside().windows.ScreenSize().*screen);
   WriteSetting(key, std::to_string(slider.Value));
   Resize();
 }

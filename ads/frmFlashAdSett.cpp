@@ -1,9 +1,8 @@
 #include "ads/frmFlashAdSett.h"
 
+#include "overlay/SizeSliders.h"
 #include "overlay/frmFlashAdShow.h"
 #include "overlay/mdlFlash.h"
-#include "platform/toolkit/Failures.h"
-#include "settings/Numbers.h"
 
 namespace {
 
@@ -40,13 +39,7 @@ void frmFlashAdSett::LoadSize() {
   LoadSlider(SlidWidth, "Width");
 }
 
-// A size that is beyond sixteen bits leaves the window as it is.
-void frmFlashAdSett::Resize() {
-  SkippingFailures([this] {
-    const std::int16_t height = SixteenBits(sldHeight.Value);
-    station_.forms.Get<frmFlashAdShow>().SetSize(height, SixteenBits(SlidWidth.Value));
-  });
-}
+void frmFlashAdSett::Resize() { SizeOverlay(station_.forms.Get<frmFlashAdShow>(), sldHeight, SlidWidth); }
 
 void frmFlashAdSett::SetTransparent(bool transparent) {
   SetFormTransparent(station_.forms.Get<frmFlashAdShow>(), transparent);

@@ -1,17 +1,13 @@
 #include "overlay/LibraryForm.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <limits>
-
 #include "controls/DeskLists.h"
 #include "overlay/FrmLogoShow.h"
+#include "overlay/SizeSliders.h"
 #include "overlay/frmClockShow.h"
 #include "overlay/frmStikerShow.h"
 #include "overlay/mdlFlash.h"
 #include "platform/Files.h"
 #include "platform/Windows.h"
-#include "platform/toolkit/Failure.h"
 #include "platform/toolkit/Failures.h"
 #include "settings/Numbers.h"
 
@@ -19,8 +15,6 @@ namespace {
 
 constexpr int kSmallest = 1000;  // twips
 constexpr int kLargest = 28800;  // until the slider is moved for the first time
-constexpr int kStep = 1000;
-constexpr int kSizeAtFirst = 3000;
 
 int WholeNumber(const std::string& text) { return RoundHalfEven(StrictNumber(text)); }
 
@@ -71,12 +65,7 @@ LibraryForm::LibraryForm(Station& station, Library library)
   for (McListBox* list : {&FolderList, &FileList}) LookLikeTheDesk(*list);
   FolderList.Mode = McListBox::kFolders;
   FileList.Mode = McListBox::kFiles;
-  for (Slider* slider : {&SlidWidth, &sldHeight}) {
-    slider->Min = kSmallest;
-    slider->Max = kLargest;
-    slider->LargeChange = kStep;
-    slider->Value = kSizeAtFirst;
-  }
+  for (Slider* slider : {&SlidWidth, &sldHeight}) BeginSizeSlider(*slider, kSmallest, kLargest);
   // Every overlay that shows something starts see-through.
   chkTransparent.Value = 1;
   // The machine's sound goes on the air.
@@ -142,11 +131,8 @@ void LibraryForm::WritePath() { station_.stores.SettingsIni.WriteValue(differenc
 
 void LibraryForm::ShowOnOverlay() { Overlay().Flash.Movie = SelectedPath; }
 
-// A size that is beyond sixteen bits leaves the overlay as it is.
 void LibraryForm::Slider_Scroll(Slider& slider, const char* key, int screenPixels) {
-  slider.Max = static_cast<int>(ToTwips(screenPixels));
-  slider.Min = kSmallest;
-  slider.Value = std::min(slider.Value.Get(), slider.Max.Get());
+  EndAtScreen(slider, screenPixels);
   WriteSetting(key, std::to_string(slider.Value));
-  SkippingFailures([this] { Overlay().SetSize(SixteenBits(sldHeight.Value), SixteenBits(SlidWidth.Value)); });
+  SizeOverlay(Overlay(), sldHeight, SlidWidth);
 }
