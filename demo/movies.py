@@ -288,7 +288,9 @@ def cap(colour):
 def breaking_news(width=1030, height=60, rate=25, hold=75, speed=5, longest=8000):
     """The strip: its line is the variable `text1` of its root. It comes in from the right, stands, and passes to the left
     until it has gone: `text1_width`, which the station's page sets with each text, is its width in pixels. Without that
-    it passes as far as the longest one. The last frames show no text: there the next one is asked for."""
+    it passes as far as the longest one. A text that is read from the right, of which the page says so in `text1_rtl`,
+    does all of it the other way round, in frames of its own. The last frames show no text: there the next one is asked
+    for."""
     label, begin, enter, end = 170, 186, 25, 12
     size = round(height * 0.52)
     # Where the strip has not the movie's shape, what lies beside the stage is seen as well.
@@ -296,24 +298,40 @@ def breaking_news(width=1030, height=60, rate=25, hold=75, speed=5, longest=8000
     characters += box(2, -width, 0, label + width, height, (90, 0, 10, 255)) + font(3)
     characters += text(4, 3, label, size + 12, height * 0.43, WHITE, "BREAKING")
     characters += text(5, 3, longest, size + 16, size, WHITE, "", "text1", LEFT)
+    characters += text(6, 3, longest, size + 16, size, WHITE, "", "text1", RIGHT)
+    characters += box(7, width, 0, width, height, (150, 10, 20, 255))
     top = (height - size - 12) / 2
-    places = [width - (width - begin) * math.sin(math.pi / 2 * frame / enter) for frame in range(enter)]
-    places += [begin] * hold
-    last = len(places) + math.ceil((longest + begin - label) / speed)
-    tags = characters + place(1, 1) + place(5, 2, matrix(places[0], top)) + place(2, 3)
-    tags += place(4, 4, matrix(0, (height - size - 2) / 2 + 2)) + SHOW
-    for x in places[1:]:
-        tags += move(2, matrix(x, top)) + SHOW
-    to_the_end = action(0x81, struct.pack("<H", last)) + PLAY
-    for frame in range(len(places), last):
-        passed = (frame - len(places) + 1) * speed
-        # Where letters end is known to within a few pixels.
-        has_gone = variable("text1_width") + push(passed - begin + label - size) + LESS
-        tags += actions(has_gone + NOT + action(0x9D, struct.pack("<h", len(to_the_end))) + to_the_end)
-        tags += move(2, matrix(begin - passed, top)) + SHOW
-    # The line stays on the stage, out of sight: one that were placed anew would have lost its text.
-    tags += move(2, matrix(0, 20 * width)) + SHOW * end
-    return movie(width, height, rate, last + end, tags, background=(150, 10, 20))
+    # How far the line is from where it stands.
+    coming = [(width - begin) * (1 - math.sin(math.pi / 2 * frame / enter)) for frame in range(enter)] + [0] * hold
+    passing = [speed * frame for frame in range(1, math.ceil((longest + begin - label) / speed) + 1)]
+    run = len(coming) + len(passing)
+
+    def go_to(frame):
+        return action(0x81, struct.pack("<H", frame)) + PLAY
+
+    def when(condition, code):
+        return actions(condition + NOT + action(0x9D, struct.pack("<h", len(code))) + code)
+
+    def frames(depth, x, way):
+        """One run of the line, shown to each frame. Where letters end is known to within a few pixels."""
+        for apart in coming:
+            yield move(depth, matrix(x - way * apart, top))
+        for passed in passing:
+            has_gone = variable("text1_width") + push(passed - begin + label - size) + LESS
+            yield when(has_gone, go_to(2 * run)) + move(depth, matrix(x + way * passed, top))
+
+    # Lines stay on the stage, out of sight: one that were placed anew would have lost its text.
+    away = matrix(0, 20 * width)
+    leftwards, rightwards = 2, 3
+    tags = characters + place(1, 1) + place(5, leftwards, away) + place(6, rightwards, away) + place(2, 4)
+    tags += place(4, 5, matrix(0, (height - size - 2) / 2 + 2))
+    tags += when(push(0) + variable("text1_rtl") + LESS, go_to(run))
+    tags += SHOW.join(frames(leftwards, begin, -1)) + actions(go_to(2 * run)) + SHOW
+    # The ground covers what passes beyond the stage's right edge, as the label does on the left.
+    tags += move(leftwards, away) + place(7, 6)
+    tags += SHOW.join(frames(rightwards, width - (begin - label) - longest, 1)) + SHOW
+    tags += move(rightwards, away) + SHOW * end
+    return movie(width, height, rate, 2 * run + end, tags, background=(150, 10, 20))
 
 
 def plain(colour, frames=50, rate=25, width=320, height=180, **more):

@@ -39,7 +39,7 @@ const movies = (() => {
   function remove(movie) {
     if (!movie || movie.gone) return;
     movie.gone = true;
-    for (const address of movie.drawn.values()) texts.forget(address);
+    for (const addresses of movie.drawn.values()) addresses.forEach(texts.forget);
     movie.element.remove();
     setRate();
   }
@@ -112,25 +112,38 @@ const movies = (() => {
 
   const bare = name => name.replace(/^(_level[0O]|_root)[.:]|^\/:|^_levelO\//, '');
 
+  const fieldsOf = (movie, root) => movie.fields.filter(one => bare(one.variable) === root);
+
+  // What a movie is told of a text beside it, as variables of its root.
+  function facts(root, value, field) {
+    return [
+      [root + '_width', String(texts.width(value, field.looks))],
+      [root + '_rtl', texts.isRightToLeft(value) ? '1' : '0'],
+    ];
+  }
+
   async function setNow(movie, name, value) {
     const root = bare(name);
     if (movie.script3) return callSurely(movie, TRIES, 'set', root, value);
     const path = root.includes('.') || root.includes(':') || root.includes('/') ? root : '_level0.' + root;
-    const field = movie.fields.find(one => bare(one.variable) === root);
-    const isDrawn = field && !texts.isPlain(value);
+    const fields = fieldsOf(movie, root);
+    const isDrawn = fields.length > 0 && !texts.isPlain(value);
     const order = movie.orders.set(root, (movie.orders.get(root) || 0) + 1).get(root);
     if (value === '' || isDrawn) {
       callSurely(movie, TRIES, 'clear', path);
     } else {
       callSurely(movie, TRIES, 'set', path, value);
     }
-    if (field) callSurely(movie, TRIES, 'set', path + '_width', String(texts.width(value, field.looks)));
-    if (!field || (!isDrawn && !movie.drawn.has(root))) return;
-    const address = isDrawn ? await texts.draw(value, field.looks) : '';
-    if (movie.gone || movie.orders.get(root) !== order) return texts.forget(address);
-    texts.forget(movie.drawn.get(root));
-    movie.drawn.set(root, address);
-    for (const clip of field.clips) callSurely(movie, TRIES, 'pic', clip + '.p', address);
+    if (fields.length === 0) return;
+    for (const [name, fact] of facts(path, value, fields[0])) callSurely(movie, TRIES, 'set', name, fact);
+    if (!isDrawn && !movie.drawn.has(root)) return;
+    const addresses = isDrawn ? await Promise.all(fields.map(field => texts.draw(value, field.looks))) : [];
+    if (movie.gone || movie.orders.get(root) !== order) return addresses.forEach(texts.forget);
+    (movie.drawn.get(root) || []).forEach(texts.forget);
+    movie.drawn.set(root, addresses);
+    fields.forEach((field, at) => {
+      for (const clip of field.clips) callSurely(movie, TRIES, 'pic', clip + '.p', addresses[at] || '');
+    });
   }
 
   function setWaiting(movie) {
@@ -214,8 +227,9 @@ const movies = (() => {
       for (const [name, value] of about.variables) {
         const root = bare(name);
         const isStart = !movie.script3 && /^[\w$]+$/.test(root);
-        const isDrawn = movie.fields.some(one => bare(one.variable) === root) && !texts.isPlain(value);
-        if (isStart) parameters[root] = isDrawn ? '' : value;
+        const fields = fieldsOf(movie, root);
+        if (isStart) parameters[root] = fields.length > 0 && !texts.isPlain(value) ? '' : value;
+        if (isStart && fields.length > 0) Object.assign(parameters, Object.fromEntries(facts(root, value, fields[0])));
         movie.waiting.push([name, value]);  // again when it is up: the oldest versions take no text from a parameter
       }
       slot.coming = movie;

@@ -4,6 +4,9 @@
 const texts = (() => {
   // Latin, Greek, Cyrillic and their signs: the player sets these itself.
   const PLAIN = /^[\u0000-\u024F\u0370-\u052F\u1E00-\u1FFF\u2000-\u206F\u20A0-\u20BF\u2100-\u214F]*$/;
+  // The first letter that has a direction gives it to its paragraph; a mark of direction stands for a letter.
+  const FIRST_STRONG = /[\p{L}\u200E\u200F\u061C]/u;
+  const LEFTWARDS = /[\u0590-\u08FF\u200F\uFB1D-\uFDFF\uFE70-\uFEFF\u{10800}-\u{10FFF}\u{1E800}-\u{1EFFF}]/u;
   const TWIPS = 20;
   const LARGEST = 8192;
   let count = 0;
@@ -14,21 +17,33 @@ const texts = (() => {
     return `rgba(${parts.join(',')},${(looks.colour & 255) / 255})`;
   }
 
+  function isRightToLeft(text) {
+    const first = FIRST_STRONG.exec(text);
+    return first !== null && LEFTWARDS.test(first[0]);
+  }
+
+  // The direction of the paragraph: by it stand words of another script, numbers and full stops.
+  function setDirection(context, text) {
+    context.direction = isRightToLeft(text) ? 'rtl' : 'ltr';
+  }
+
+  // Each line with its paragraph.
   function lines(context, text, looks, width) {
-    if (!looks.multiline) return [text.replace(/[\r\n]+/g, ' ')];
+    if (!looks.multiline) return [[text.replace(/[\r\n]+/g, ' '), text]];
     const all = [];
     for (const paragraph of text.split(/\r\n|\r|\n/)) {
       let line = '';
+      setDirection(context, paragraph);
       for (const word of paragraph.split(' ')) {
         const longer = line ? line + ' ' + word : word;
         if (line && context.measureText(longer).width > width) {
-          all.push(line);
+          all.push([line, paragraph]);
           line = word;
         } else {
           line = longer;
         }
       }
-      all.push(line);
+      all.push([line, paragraph]);
     }
     return all;
   }
@@ -39,11 +54,13 @@ const texts = (() => {
 
   return {
     isPlain: text => PLAIN.test(text),
+    isRightToLeft,
 
     // How far the text reaches in one line, in pixels.
     width(text, looks) {
       measuring = measuring || document.createElement('canvas').getContext('2d');
       setFont(measuring, looks);
+      setDirection(measuring, text);
       return Math.ceil(measuring.measureText(text).width);
     },
 
@@ -65,7 +82,8 @@ const texts = (() => {
       const [align, x] = places[looks.align] || ['left', left];
       context.textAlign = align;
       let y = looks.top / TWIPS + 2 + size;
-      for (const line of lines(context, text, looks, room)) {
+      for (const [line, paragraph] of lines(context, text, looks, room)) {
+        setDirection(context, paragraph);
         context.fillText(line, x, y);
         y += size * 1.2;
       }
