@@ -24,6 +24,10 @@ HEADLINES = (
     ("والمستشفيات", "Arab"),
 )
 
+# As it is read: from the right, but for the Latin name and the digits of the year.
+SENTENCE = (("قال", "Arab"), ("Orlin", "Latn"), ("إن", "Arab"), ("عام", "Arab"), ("2026", "Latn"), ("جديد.", "Arab"))
+MARGIN = 16  # pixels between the line where it stands and the side that it is read from
+
 
 def station_with_strip(desk, *headlines, hold=75, speed=5, **settings):
     """A station whose strip is on, below the output window and at the size of its movie. Without headlines there is no
@@ -96,6 +100,72 @@ def the_strip_shows_its_first_text_and_then_the_headlines_in_turn_in_every_scrip
             apart = letters.likeness(seen, letters.set_text(text, script, font, SIZE, letters.APART))
             print(f"  with its letters apart: {apart:.2f}")
             assert apart < likeness - 0.1, "letters that are not joined look as good"
+
+
+def edges(station):
+    """The columns of the strip between which its line has ink; None where it has none."""
+    columns = zip(*(row[LABEL + 4 :] for row in pixels(station)))
+    inked = [x for x, column in enumerate(columns, LABEL + 4) if any(p[1] >= letters.WHITE_FROM for p in column)]
+    return (inked[0], inked[-1]) if inked else None
+
+
+def await_standing(station, first, from_the_right):
+    """Waits until a line stands that begins with that word at the side it is read from."""
+    until(f"{first} at the beginning of the strip's line",
+          lambda: letters.likeness_at_side(line(station), *first, SIZE, from_the_right) > 0.7, 60)
+
+
+@scenario
+def a_sentence_that_is_read_from_the_right_has_its_latin_words_and_numbers_in_their_places(desk):
+    station = station_with_strip(desk, " ".join(text for text, _ in SENTENCE), hold=200)
+    station.start_on_air()
+    width = until("the strip", lambda: strip(station)).width
+    alike = []
+
+    def reads():
+        nonlocal alike
+        seen = line(station)
+        _, right = edges(station) or (0, 0)
+        if not seen or not width - 2 * MARGIN < right < width - MARGIN / 2:
+            return False
+        words = letters.words(seen, len(SENTENCE))[::-1]
+        alike = [letters.best_likeness(ink, *word, SIZE)[0] for ink, word in zip(words, SENTENCE)]
+        return len(words) == len(SENTENCE) and min(alike) > 0.7
+
+    try:
+        until("the sentence with its beginning at the right", reads, 60)
+    finally:
+        print("word by word:", *(f"{one:.2f}" for one in alike))
+    station.screen.picture(media.ROOT / "build" / "news-sentence.png")
+
+
+def passes_from_its_beginning(desk, text, first, from_the_right):
+    """The line stands with its first word on the side it is read from, leaves on that side, its end last, and the next
+    headline follows."""
+    station = station_with_strip(desk, text, "The end", hold=40, speed=10)
+    station.start_on_air()
+    await_standing(station, first, from_the_right)
+    station.screen.picture(media.ROOT / "build" / f"news-long-{first[1]}.png")
+    width = strip(station).width
+
+    def is_leaving():
+        """Its end is seen, far from the side that it came in by, and its beginning has passed the other one."""
+        left, right = edges(station) or (0, width)
+        return left > LABEL + 150 and right > width - 40 if from_the_right else left < LABEL + 40 and right < width - 150
+
+    until("the end of the line to pass", is_leaving, 60)
+    # Were it to go on for as long as the longest line, it would take that long again.
+    await_text(station, "The end", "Latn", seconds=25)
+
+
+@scenario
+def a_long_line_that_is_read_from_the_left_passes_leftwards(desk):
+    passes_from_its_beginning(desk, "Beginning " + "and so on " * 14, ("Beginning", "Latn"), from_the_right=False)
+
+
+@scenario
+def a_long_line_that_is_read_from_the_right_passes_rightwards(desk):
+    passes_from_its_beginning(desk, "جديد " + "قال إن عام 2026 " * 9, ("جديد", "Arab"), from_the_right=True)
 
 
 @scenario

@@ -30,6 +30,29 @@ def ink(rows):
     return [row >> left for row in marks[filled[0] : filled[-1] + 1]]
 
 
+def columns(seen, left, right):
+    """The ink between two columns, cut to the text."""
+    rows = [row >> left & (1 << right - left) - 1 for row in seen]
+    filled = [y for y, row in enumerate(rows) if row]
+    if not filled:
+        return []
+    blank = min((row & -row).bit_length() - 1 for row in rows if row)
+    return [row >> blank for row in rows[filled[0] : filled[-1] + 1]]
+
+
+def width(seen):
+    return max((row.bit_length() for row in seen), default=0)
+
+
+def words(seen, count):
+    """The words of an ink from the left, which are parted by its widest gaps."""
+    filled = functools.reduce(int.__or__, seen, 0)
+    edges = [x for x in range(filled.bit_length() + 1) if (filled >> x & 1) != (filled << 1 >> x & 1)]
+    gaps = sorted(zip(edges[1::2], edges[2::2]), key=lambda gap: gap[0] - gap[1])[: count - 1]
+    sides = [0, *(x for gap in sorted(gaps) for x in gap), width(seen)]
+    return [columns(seen, left, right) for left, right in zip(sides[::2], sides[1::2])]
+
+
 @functools.cache
 def set_text(text, script, font, size, letters=JOINED):
     """The ink of a text in a font of that size in pixels."""
@@ -58,6 +81,16 @@ def likeness(seen, wanted, play=3):
 def best_likeness(seen, text, script, size, letters=JOINED):
     """The likeness to the text in the font that fits best, and that font."""
     return max((likeness(seen, set_text(text, script, font, size, letters)), font) for font in fonts_of(script))
+
+
+def likeness_at_side(seen, text, script, size, is_right):
+    """The likeness of an ink's left or right end to the text, in the font that fits best."""
+    most = 0.0
+    for font in fonts_of(script):
+        wanted = set_text(text, script, font, size)
+        left = width(seen) - width(wanted) if is_right else 0
+        most = max(most, likeness(columns(seen, max(0, left), max(0, left) + width(wanted)), wanted))
+    return most
 
 
 def _told(*command):
