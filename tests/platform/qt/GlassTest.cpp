@@ -103,6 +103,11 @@ class GlassTest : public testing::Test, public Windows {
     manager_ = new QProcess;
     manager_->start("openbox", {});
     ASSERT_TRUE(manager_->waitForStarted());
+    // Windows that are there before it are taken down and put up again.
+    ASSERT_TRUE(Until([] {
+      Display* display = XDisplay();
+      return !ReadList(display, DefaultRootWindow(display), "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty();
+    }));
   }
   static void TearDownTestSuite() {
     manager_->terminate();
