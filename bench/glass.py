@@ -8,12 +8,11 @@ import sys
 import time
 
 import composed
-import movies as nine_movies
+import nine_movies
 from composed import ROOT, clip, cpu_of_tree, x_server_of
 from harness.desk import Desk
 
-sys.path.insert(0, str(ROOT / "demo"))
-import movies  # noqa: E402
+import movies  # the station's own, which the demo makes
 
 # Movie and its place: left, top, width, height in pixels.
 OVERLAYS = [
@@ -40,7 +39,6 @@ def measure(command, manager, seconds):
         began, before = time.monotonic(), sum(map(cpu_of_tree, watched))
         time.sleep(seconds)
         took, after = time.monotonic() - began, sum(map(cpu_of_tree, watched))
-        desk.screen.picture(ROOT / "build" / f"bench-glass-{manager or 'none'}.png")
         assert player.poll() is None, f"{command[0]} ended early"
     return (after - before) / took
 
