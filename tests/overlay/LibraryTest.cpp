@@ -103,10 +103,11 @@ TYPED_TEST(LibraryTest, ADeleteAsksInTheWordsOfTheLibraryAndNoDeletesNothing) {
 }
 
 TYPED_TEST(LibraryTest, ADeletedFileMayStillBeTheOverlaysAndItsSettingStays) {
-  this->Set(TypeParam::kSection, "Path", this->At("news/a.swf"));
   this->PickFile("news", "a.swf");
+  TypeParam::Set(this->Desk()).Press();
   this->Answered(Answer::kYes, this->Desk().btnDelete);
   EXPECT_EQ(this->sim.files.Kind(this->At("news/a.swf")), FileKind::kAbsent);
+  EXPECT_EQ(this->Overlay().Flash.Movie.Get(), this->At("news/a.swf"));
   EXPECT_EQ(this->Setting(TypeParam::kSection, "Path"), this->At("news/a.swf"));
 }
 
