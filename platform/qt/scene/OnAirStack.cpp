@@ -54,6 +54,7 @@ void OnAirStack::Arrange() {
   std::vector<Sheet*> glass;
   QRegion glassInFront;
   for (Sheet* sheet : shown) {
+    if (sheet->IsSeeThrough()) sheet->PaintGlass({});  // it may have been opaque a moment ago
     if (isGlass(sheet)) {
       sheet->BeCut({opaqueBehind[sheet], glassInFront});
       glass.push_back(sheet);

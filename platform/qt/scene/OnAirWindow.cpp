@@ -1,5 +1,6 @@
 #include "platform/qt/scene/OnAirWindow.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QQuickItem>
@@ -17,6 +18,7 @@
 #include "platform/qt/scene/SceneItems.h"
 #include "platform/qt/scene/Sheet.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/Panes.h"
 
 namespace {
 
@@ -55,13 +57,27 @@ class FormItem : public QQuickItem {
   Told moved_;
 };
 
+// A form may become see-through while it is shown. One with a pane on it never does: panes are opaque.
+bool MayBeSeeThrough(const Form& form) {
+  const auto isPane = [](const Control* control) { return dynamic_cast<const PictureBox*>(control) != nullptr; };
+  return form.Type() != Form::Kind::kPreview && std::ranges::none_of(form.Controls(), isPane);
+}
+
+bool MeetsNoScreen(const QRect& place) {
+  return std::ranges::none_of(QGuiApplication::screens(),
+                              [&](const QScreen* screen) { return screen->geometry().intersects(place); });
+}
+
 }  // namespace
 
-OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene), window_(new QQuickWindow) {
-  QSurfaceFormat format = window_->format();
-  format.setAlphaBufferSize(0);
-  window_->setFormat(format);
+// A native window has an alpha channel from its beginning or never: its painter would not take over one that is made
+// anew. One that has it is painted opaque where its form is. Nobody types into such a window, or looks for it in a list
+// of windows.
+OnAirWindow::OnAirWindow(Form& form, Scene& scene)
+    : form_(form), scene_(scene), window_(new QQuickWindow), hasAlpha_(MayBeSeeThrough(form)) {
+  KeepAlpha();
   window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint);
+  window_->setFlag(Qt::WindowDoesNotAcceptFocus, hasAlpha_);
   window_->setProperty("_q_showWithoutActivating", true);
   window_->installEventFilter(this);
   new FormItem(
@@ -82,6 +98,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   coverIsDue_.start(0);
   if (!HasFrame()) sheet_ = std::make_unique<Sheet>(*window_, items_, scene.stack);
   connect(window_, &QWindow::screenChanged, this, &OnAirWindow::FollowScreen);
+  connect(qGuiApp, &QGuiApplication::screenAdded, &placeIsDue_, [this] { placeIsDue_.start(0); });
 
   for (QTimer* timer : {&placeIsDue_, &coverIsDue_, &settled_}) timer->setSingleShot(true);
   settled_.setInterval(kToSettle);
@@ -106,6 +123,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene) : form_(form), scene_(scene),
   following_.push_back(form.ShowAsked.Subscribe([this] { ComeForward(); }));
   following_.push_back(form.BackColor.Changed.Subscribe(style));
   following_.push_back(form.ExtendedStyle.Changed.Subscribe(style));
+  if (hasAlpha_) window_->create();  // what its shape and its back are told before would be lost
   title();
   style();
   onTop();
@@ -153,24 +171,14 @@ bool OnAirWindow::IsSeeThrough() const { return (form_.ExtendedStyle & kLayered)
 void OnAirWindow::ApplyStyle() {
   const Colour back = form_.BackColor;
   window_->setColor(IsSeeThrough() ? QColor(Qt::transparent) : QColor(back.red, back.green, back.blue));
-  if (IsSeeThrough() && !hasAlpha_) GiveAlpha();
+  KeepAlpha();  // the colour takes it away and gives it
   if (sheet_) sheet_->SetSeeThrough(IsSeeThrough());
 }
 
-// A native window has an alpha channel from its beginning or never. One that has been given it keeps it: it is painted
-// opaque where its form is. Nobody types into such a window, or looks for it in a list of windows.
-void OnAirWindow::GiveAlpha() {
-  hasAlpha_ = true;
+void OnAirWindow::KeepAlpha() {
   QSurfaceFormat format = window_->requestedFormat();
-  format.setAlphaBufferSize(8);
+  format.setAlphaBufferSize(hasAlpha_ ? 8 : 0);
   window_->setFormat(format);
-  window_->setFlag(Qt::WindowDoesNotAcceptFocus);
-  const bool wasShown = window_->isVisible();
-  window_->destroy();
-  window_->create();
-  SetWindowClass(*window_, form_.Name());
-  if (sheet_) sheet_->SetSeeThrough(true);  // before it comes up again
-  if (wasShown) ApplyVisible();
 }
 
 void OnAirWindow::ComeForward() {
@@ -191,9 +199,10 @@ void OnAirWindow::FindCovered() {
 
 // The viewers' display gives the rate. A preview stands on the operator's; so may an overlay.
 void OnAirWindow::FollowScreen() {
-  const bool isOutput = sheet_ && scene_.stack.IsLargest(*sheet_);
-  if (isOutput && window_->screen() != nullptr) scene_.scheduler.SetFrameRate(window_->screen()->refreshRate());
+  if (IsOutput() && window_->screen() != nullptr) scene_.scheduler.SetFrameRate(window_->screen()->refreshRate());
 }
+
+bool OnAirWindow::IsOutput() const { return sheet_ && scene_.stack.IsLargest(*sheet_); }
 
 bool OnAirWindow::HasFrame() const { return form_.Type() == Form::Kind::kPreview; }
 
@@ -220,6 +229,7 @@ void OnAirWindow::AdoptPlace() {
     return;
   }
   const QRect wanted = WantedPlace();
+  if (!IsOutput() && MeetsNoScreen(wanted)) return;  // its screen is gone for now: what is remembered stays
   const QRect actual = window_->geometry();
   const auto adopt = [](Property<Twips>& measure, int by) {
     if (by != 0) measure = ToTwips(ToPixels(measure) + by);

@@ -49,11 +49,12 @@ class OnAirWindow : public QObject, public FormWindow {
   void Mirror(const std::vector<Control*>& controls, QQuickItem& parent);
   void FollowScreen();  // ticks come at the rate of the display that the window is on
   void FindCovered();
+  bool IsOutput() const;
   bool HasFrame() const;
   void ApplyVisible();
   bool IsSeeThrough() const;
   void ApplyStyle();
-  void GiveAlpha();
+  void KeepAlpha();
   void ComeForward();
   QRect WantedPlace();
   void ApplyPlace();
@@ -66,7 +67,7 @@ class OnAirWindow : public QObject, public FormWindow {
   std::vector<ControlItem*> items_;
   std::vector<ControlItem*> panes_;  // those directly on the form, front to back
   std::unique_ptr<Sheet> sheet_;     // its place among the on-air windows; none with HasFrame
-  bool hasAlpha_ = false;            // of the native window
+  const bool hasAlpha_;              // of the native window
   std::vector<Subscription> following_;
   QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
   QTimer coverIsDue_;  // finds out, likewise once, which panes are hidden by others

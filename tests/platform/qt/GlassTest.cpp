@@ -346,6 +346,53 @@ TEST_F(GlassTest, AStripThatStandsBetweenPaintsItToo) {
   Becomes(325, 195, mixedWithBlue);
 }
 
+TEST_P(GlassUnderAnyManager, AWindowThatBecomesSeeThroughPaintsNoOtherAnyMore) {
+  frmOtherGlass& behind = station.forms.Get<frmOtherGlass>();
+  behind.ExtendedStyle = 0;
+  behind.BackColor = kWhite;
+  behind.Show();
+  Becomes(275, 225, Qt::white);
+  Put(glass, "quarters.png", Quarters());
+  glass.OnTop = true;
+  Becomes(275, 175, Qt::green);
+  Becomes(275, 225, QColor(205, 255, 205));
+  behind.ExtendedStyle = kLayered;
+  Becomes(275, 225, nearlyRed);
+  glass.Hide();
+  Becomes(275, 175, Qt::red);
+  Becomes(325, 175, Qt::blue);
+}
+
+TEST_P(GlassUnderAnyManager, AWindowMayBecomeSeeThroughWhileItIsShown) {
+  class frmLate : public frmGlassBase {
+   public:
+    explicit frmLate(Station& station) : frmGlassBase(station, "frmLate") {
+      ExtendedStyle = 0;
+      BackColor = kWhite;
+    }
+  };
+  frmLate& late = station.forms.Get<frmLate>();
+  late.Show();
+  Becomes(275, 175, Qt::white);
+  late.ExtendedStyle = kLayered;
+  Becomes(275, 175, Qt::red);
+  Put(late, "quarters.png", Quarters());
+  Becomes(275, 225, nearlyRed);
+  Becomes(325, 175, mixedWithBlue);
+}
+
+// The window manager brings it onto the screen that is left. With the screen it comes back to where it was.
+TEST_F(GlassTest, AWindowWhoseScreenIsGoneKeepsItsPlace) {
+  Put(glass, "quarters.png", Quarters());
+  Becomes(275, 175, Qt::green);
+  glass.Left = ToTwips(1920);
+  ASSERT_TRUE(Until([&] { return windows[&glass]->x() > 250; }));
+  QTest::qWait(1000);
+  EXPECT_EQ(ToPixels(glass.Left), 1920);
+  glass.Left = ToTwips(250);
+  Becomes(275, 175, Qt::green);
+}
+
 TEST_F(GlassTest, WhatHasMovedLeavesNothingBehind) {
   QImage left(100, 100, QImage::Format_ARGB32_Premultiplied);
   left.fill(Qt::transparent);
