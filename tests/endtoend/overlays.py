@@ -75,7 +75,7 @@ def stands_where_it_was_dragged_after_a_cut(desk):
 
 @scenario
 def each_overlay_stands_over_the_video_and_after_a_cut_where_it_was_dragged_with_a_compositing_manager(desk):
-    desk.start("picom", "--backend", "xrender", "--config", "/dev/null")
+    desk.start_compositing()
     stands_where_it_was_dragged_after_a_cut(desk)
 
 

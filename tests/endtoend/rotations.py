@@ -168,6 +168,14 @@ def the_flash_ads_movies_follow_each_other_in_a_window_over_the_picture(desk):
 
 
 @scenario
+def the_flash_ad_is_seen_under_a_compositing_manager(desk):
+    desk.start_compositing()
+    station = station_with_flash_ad(desk, in_turn()).start_on_air()
+    for name in COLOURS:
+        until(f"{name} in the flash ad", lambda: flash_ad(desk) == name)
+
+
+@scenario
 def a_library_that_vanishes_under_the_flash_ad_brings_one_warning_and_the_programme_goes_on(desk):
     station = station_with_flash_ad(desk, in_turn()).start_on_air()
     until("the first movie", lambda: flash_ad(desk) == "red")

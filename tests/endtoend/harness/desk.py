@@ -77,6 +77,10 @@ class Desk:
                 check=True, timeout=20, env=self.environment,
             )
 
+    def start_compositing(self):
+        """Brings up a compositing manager; without one a window has no alpha channel of its own."""
+        self.start("picom", "--backend", "xrender", "--config", "/dev/null")
+
     def start(self, *command, **more):
         """Starts a program on the desk; it is ended with the desk at the latest."""
         process = subprocess.Popen(
