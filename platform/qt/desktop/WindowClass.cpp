@@ -31,6 +31,17 @@ void HideFromTaskbar(QWindow& window) {
   XFlush(display);
 }
 
+void StandBefore(QWindow& window, QWindow* other) {
+  Display* display = XDisplay();
+  if (display == nullptr || window.handle() == nullptr) return;
+  if (other != nullptr && other->handle() != nullptr) {
+    XSetTransientForHint(display, window.winId(), other->winId());
+  } else {
+    XDeleteProperty(display, window.winId(), XA_WM_TRANSIENT_FOR);
+  }
+  XFlush(display);
+}
+
 void SetBackground(QWindow& window, Background background) {
   Display* display = XDisplay();
   if (display == nullptr || window.handle() == nullptr) return;

@@ -10,6 +10,9 @@ void SetWindowClass(QWindow& window, const std::string& name);
 
 // Keeps a window that has just been shown out of the desktop's lists of windows. Does nothing without X.
 void HideFromTaskbar(QWindow& window);
+// Has the window manager keep a window in front of another one, whatever that does; null: on its own again. Does
+// nothing without X.
+void StandBefore(QWindow& window, QWindow* other);
 // What the X server fills a part of the window with that it has not been given yet: pixels that let everything through,
 // or nothing, which leaves there what was seen. Does nothing without X.
 enum class Background { kNone, kTransparent };

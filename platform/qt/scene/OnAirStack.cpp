@@ -51,6 +51,12 @@ void OnAirStack::Arrange() {
     opaqueBehind[sheet] = opaque;
     if (!sheet->IsSeeThrough()) opaque += sheet->Place();
   }
+  // Some window managers put a window that fills its monitor in front even of those that are on top.
+  const auto base = std::ranges::find_if(shown, [this](const Sheet* sheet) { return IsLargest(*sheet); });
+  for (Sheet* sheet : shown) {
+    const bool hasBase = base != shown.end() && sheet != *base && sheet->IsOnTop();
+    sheet->BelongTo(hasBase ? *base : nullptr);
+  }
   std::vector<Sheet*> glass;
   QRegion glassInFront;
   for (Sheet* sheet : shown) {

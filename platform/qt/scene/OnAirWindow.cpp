@@ -71,13 +71,12 @@ bool MeetsNoScreen(const QRect& place) {
 }  // namespace
 
 // A native window has an alpha channel from its beginning or never: its painter would not take over one that is made
-// anew. One that has it is painted opaque where its form is. Nobody types into such a window, or looks for it in a list
-// of windows.
+// anew. One that has it is painted opaque where its form is. Nobody looks for such a window in a list of windows.
 OnAirWindow::OnAirWindow(Form& form, Scene& scene)
     : form_(form), scene_(scene), window_(new QQuickWindow), hasAlpha_(MayBeSeeThrough(form)) {
   KeepAlpha();
-  window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint);
-  window_->setFlag(Qt::WindowDoesNotAcceptFocus, hasAlpha_);
+  // Nobody types into a window on the air.
+  window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
   window_->setProperty("_q_showWithoutActivating", true);
   window_->installEventFilter(this);
   new FormItem(

@@ -48,8 +48,10 @@ Sheet::~Sheet() { stack_.Remove(*this); }
 
 void Sheet::SetShown(bool shown) {
   if (std::exchange(isShown_, shown) == shown) return;
+  base_.clear();
   if (shown) stack_.ComeForward(*this);
   stack_.Arrange();
+  stack_.ArrangeSoon();
 }
 
 void Sheet::SetOnTop(bool onTop) {
@@ -102,6 +104,13 @@ void Sheet::BeCut(const Surroundings& around) {
     }
   }
   if (!stays) ApplyShape();
+}
+
+void Sheet::BelongTo(Sheet* base) {
+  QQuickWindow* window = base != nullptr ? &base->window_ : nullptr;
+  if (window == base_ || !window_.isVisible()) return;  // what it is told before it is shown is lost
+  base_ = window;
+  StandBefore(window_, window);
 }
 
 void Sheet::Restart(Surface& surface) {

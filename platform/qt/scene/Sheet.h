@@ -50,6 +50,8 @@ class Sheet : public QObject {
   void BeWhole();
   // The window takes the shape of what is to be seen of it, at once and whenever its picture changes.
   void BeCut(const Surroundings& around);
+  // The window stays in front of that one; null: it stands for itself.
+  void BelongTo(Sheet* base);
   // Paints those windows' pictures, front to back, over all that is its own.
   void PaintGlass(const std::vector<Sheet*>& sheets);
 
@@ -78,6 +80,7 @@ class Sheet : public QObject {
   bool isSeeThrough_ = false;
   bool isCut_ = false;
   Surroundings around_;
+  QPointer<QQuickWindow> base_;
   QTimer shapeIsDue_;
   QElapsedTimer sinceShape_;
   QTimer settled_;

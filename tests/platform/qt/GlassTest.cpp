@@ -167,6 +167,17 @@ class GlassTest : public testing::Test, public Windows {
     XFlush(other);
   }
 
+  // The station's windows by their forms, front to back.
+  std::vector<std::string> Stack() const {
+    std::vector<std::string> names;
+    for (const Window window : ReadList(other, DefaultRootWindow(other), "_NET_CLIENT_LIST_STACKING", XA_WINDOW)) {
+      for (const auto& [form, shown] : windows) {
+        if (shown && shown->winId() == window) names.insert(names.begin(), form->Name());
+      }
+    }
+    return names;
+  }
+
   const QColor mixedWithRed{105, 150, 0};   // the half-transparent green over red
   const QColor mixedWithBlue{0, 150, 105};  // and over blue
   const QColor nearlyRed{205, 50, 0};
@@ -282,6 +293,20 @@ TEST_P(GlassUnderAnyManager, ItTakesNoKeyboardAndStandsInNoListOfWindows) {
     };
     EXPECT_TRUE(Until(has, 10s)) << state;
   }
+}
+
+TEST_P(GlassUnderAnyManager, ItStandsInFrontOfAnOutputThatFillsTheMonitorAndWasPressed) {
+  ground.Left = ground.Top = 0;
+  ground.Width = ground.All.Width = ToTwips(1280);
+  ground.Height = ground.All.Height = ToTwips(800);
+  Put(glass, "quarters.png", Quarters());
+  Becomes(275, 175, Qt::green);
+  Becomes(1000, 700, Qt::red);
+  PressAt(1000, 700);
+  Release();
+  Pass(500ms);
+  Becomes(275, 175, Qt::green);
+  EXPECT_EQ(Stack(), (std::vector<std::string>{"frmGlass", "frmGround"}));
 }
 
 TEST_F(GlassTest, ACompositingManagerMayStartAndEndAtAnyTime) {
