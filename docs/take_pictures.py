@@ -20,6 +20,8 @@ from harness.station import PROGRAM  # noqa: E402
 PICTURES = ROOT / "docs" / "pictures"
 # The picture on the air is laid out for its window two seconds after that has come up.
 LAID_OUT = 3
+# The first movie brings up the program that plays them all.
+MOVIES_UP = 8
 
 
 def take(screen, window, name):
@@ -28,18 +30,27 @@ def take(screen, window, name):
     subprocess.run([*command, str(PICTURES / f"{name}.png")], check=True)
 
 
+def take_place(screen, window, name):
+    """What is seen where the window stands, with all that lies over it."""
+    place = f"{window.width}x{window.height}+{window.x}+{window.y}"
+    command = ["import", "-display", screen.name, "-window", "root", "-crop", place, "+repage", "-depth", "8", "-strip"]
+    subprocess.run([*command, str(PICTURES / f"{name}.png")], check=True)
+
+
 def main():
     folder = pathlib.Path(tempfile.gettempdir()) / "station"
     try:
         subprocess.run([sys.executable, ROOT / "demo" / "stage.py", PROGRAM, folder], check=True)
-        with Desk(2560, 1440) as desk:
+        # So wide that no form, in the middle, stands under what lies over the picture in the corner.
+        with Desk(3840, 2160) as desk:
             desk.start(folder / "corvanta")
             screen = desk.screen
             reader = Reader(screen)
             control = until("the control window", lambda: screen.window(form="frmMid"))
             time.sleep(LAID_OUT)
             take(screen, control, "control-window")
-            take(screen, screen.window(form="frmPlayer"), "on-the-air")
+            time.sleep(MOVIES_UP)
+            take_place(screen, screen.window(form="frmPlayer"), "on-the-air")
             reader.press("Broadcast", "menu item")
             reader.press("Playlist manager", "menu item")
             manager = until("the playlist manager", lambda: screen.window(form="frmPlaylist"))
