@@ -51,7 +51,10 @@ def category(station, name, written, library="LeftSideAd"):
     folder = station.folder / "Media" / library / name
     folder.mkdir(parents=True, exist_ok=True)
     for file, movie in written.items():
-        (folder / file).write_bytes(movie)
+        # Whole in one step: the rotation may be reading the folder.
+        unfinished = folder / f"{file}.part"
+        unfinished.write_bytes(movie)
+        unfinished.rename(folder / file)
     return folder
 
 
