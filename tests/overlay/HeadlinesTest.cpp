@@ -143,7 +143,8 @@ TEST_F(HeadlinesTest, ATornFileGivesWhatIsLeftOfIt) {
 }
 
 TEST_F(HeadlinesTest, AFileOfBytesThatAreNoTextIsNoHarm) {
-  Put(std::string("[1]\0\xff\r\nText=\x80\x81\r\n[99999999999999999999]\r\nText=far\r\n", 53));
+  constexpr char kBytes[] = "[1]\0\xff\r\nText=\x80\x81\r\n[99999999999999999999]\r\nText=far\r\n";
+  Put(std::string(kBytes, sizeof kBytes - 1));
   EXPECT_EQ(Next(), "(none)");
   news.Store({{"a", true}});
   EXPECT_EQ(Next(), "a");

@@ -30,7 +30,7 @@ void OnAirStack::ComeForward(Sheet& sheet) {
 std::vector<Sheet*> OnAirStack::Shown() const {
   std::vector<Sheet*> shown;
   std::ranges::copy_if(sheets_, std::back_inserter(shown), &Sheet::IsShown);
-  std::ranges::stable_partition(shown, &Sheet::IsOnTop);
+  std::stable_partition(shown.begin(), shown.end(), [](const Sheet* sheet) { return sheet->IsOnTop(); });
   return shown;
 }
 
