@@ -47,6 +47,7 @@ std::vector<Headline> Headlines::All() {
     if (const std::size_t number = NumberOf(name); number > 0) names.emplace(number, name);
   }
   std::vector<Headline> all;
+  all.reserve(names.size());
   for (const auto& [number, name] : names) {
     all.push_back({sections.ReadValue(name, kText, ""), sections.ReadValue(name, kActive, "") == "1"});
   }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 
 #include "platform/qt/scene/Sheet.h"
 
@@ -47,9 +46,9 @@ void OnAirStack::Arrange() {
   const auto isGlass = [this](const Sheet* sheet) { return sheet->IsSeeThrough() && !compositor_.Runs(); };
   std::map<const Sheet*, QRegion> opaqueBehind;
   QRegion opaque;
-  for (Sheet* sheet : std::views::reverse(shown)) {
-    opaqueBehind[sheet] = opaque;
-    if (!sheet->IsSeeThrough()) opaque += sheet->Place();
+  for (auto sheet = shown.rbegin(); sheet != shown.rend(); ++sheet) {
+    opaqueBehind[*sheet] = opaque;
+    if (!(*sheet)->IsSeeThrough()) opaque += (*sheet)->Place();
   }
   // Some window managers put a window that fills its monitor in front even of those that are on top.
   const auto base = std::ranges::find_if(shown, [this](const Sheet* sheet) { return IsLargest(*sheet); });
