@@ -21,7 +21,7 @@ constexpr int kLargest = 40400;
 MovieRotation::MovieRotation(Station& station, const RotationKind& kind)
     : Form(station.forms, kind.form, Kind::kOperator),
       station_(station),
-      library_(*this, FolderList, station.dataFolder.Path(kind.library)),
+      library_(*this, FolderList, station.dataFolder.Path(kind.folder)),
       kind_(kind) {
   Caption = kind.caption;
   Width = ToTwips(960);

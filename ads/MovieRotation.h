@@ -20,7 +20,7 @@ struct RotationKind {
   const char* form;
   const char* caption;
   const char* section;  // of Settings.ini
-  const char* library;
+  const char* folder;
   const char* listedAtLoad;  // the folder whose folders are listed until a category is made or deleted
   const char* filter;        // of the dialog that adds a movie
   LoadsSettings loadsSettings;
