@@ -6,10 +6,8 @@ Beside it, in the same run: mpv with the clip alone, and ffplay that composes th
 band moves with the clip's 25 frames only, which spares it more than half of the band's work). Each is measured twice,
 in turn, so that a machine that grows slower meanwhile shows."""
 
-import os
 import pathlib
 import statistics
-import subprocess
 import sys
 import time
 
@@ -18,12 +16,12 @@ sys.path.insert(0, str(ROOT / "tests" / "endtoend"))
 sys.path.insert(0, str(ROOT / "demo"))
 import clips  # noqa: E402
 from harness.desk import Desk  # noqa: E402
+from meter import Meter, x_server  # noqa: E402
 
 ON_AIR = ROOT / "build" / "release" / "bench" / "composed" / "composed_on_air"
 MEDIA = ROOT / "build" / "bench-media"
 CLIP_SECONDS = 40
 BAND_TOP = 950
-TICKS_OF_A_SECOND = os.sysconf("SC_CLK_TCK")
 WARM_UP = 4
 ROUNDS = 2
 
@@ -40,67 +38,16 @@ def picture(name, size):
     return clips.make(MEDIA / name, "-f", "lavfi", "-i", f"testsrc2=size={size}", "-frames:v", "1", "-pix_fmt", "yuvj420p")
 
 
-def stat_of(pid):
-    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
-    return int(fields[1]), (int(fields[11]) + int(fields[12])) / TICKS_OF_A_SECOND
-
-
-def cpu_of_tree(root):
-    """CPU seconds that a process and all its descendants have used."""
-    known = {}
-    for entry in os.listdir("/proc"):
-        if entry.isdigit():
-            try:
-                known[int(entry)] = stat_of(entry)
-            except OSError:
-                pass  # it has ended meanwhile
-    total, waiting = 0.0, [root]
-    while waiting:
-        pid = waiting.pop()
-        total += known[pid][1]
-        waiting += [child for child, (parent, _) in known.items() if parent == pid]
-    return total
-
-
-def pss_of_tree(root):
-    """Megabytes of the process and all below it, what is shared counted once."""
-    parents = {}
-    for entry in os.listdir("/proc"):
-        if entry.isdigit():
-            try:
-                parents[int(entry)] = stat_of(entry)[0]
-            except OSError:
-                pass
-    total, waiting = 0, [root]
-    while waiting:
-        pid = waiting.pop()
-        try:
-            lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
-            total += sum(int(line.split()[1]) for line in lines if line.startswith("Pss:"))
-        except OSError:
-            pass
-        waiting += [child for child, parent in parents.items() if parent == pid]
-    return total / 1024
-
-
-def x_server_of(desk):
-    ours = str(os.getpid())
-    servers = subprocess.run(["pgrep", "-P", ours, "Xvfb"], capture_output=True, text=True, check=True).stdout.split()
-    assert len(servers) == 1, desk
-    return int(servers[0])
-
-
 def measure(command, seconds):
     """CPU seconds per second of the command and of the X server."""
     with Desk(1920, 1080) as desk:
-        server = x_server_of(desk)
         player = desk.start(*map(str, command))
         time.sleep(WARM_UP)
-        began, before = time.monotonic(), (cpu_of_tree(player.pid), cpu_of_tree(server))
+        meters = Meter(player.pid), Meter(x_server())
         time.sleep(seconds)
-        took, after = time.monotonic() - began, (cpu_of_tree(player.pid), cpu_of_tree(server))
+        costs = [meter.cost() for meter in meters]
         assert player.poll() is None, f"{command[0]} ended early"
-    return [(b - a) / took for a, b in zip(before, after)]
+    return costs
 
 
 def compare(commands, seconds):

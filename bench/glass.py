@@ -9,8 +9,9 @@ import time
 
 import composed
 import nine_movies
-from composed import ROOT, clip, cpu_of_tree, x_server_of
+from composed import clip
 from harness.desk import Desk
+from meter import Meter, x_server
 
 import movies  # the station's own, which the demo makes
 
@@ -26,8 +27,7 @@ OVERLAYS = [
 
 def measure(command, manager, seconds):
     with Desk(1920, 1080) as desk:
-        server = x_server_of(desk)
-        watched = [server]
+        watched = [x_server()]
         if manager == "picom":
             watched.append(desk.start("picom", "--config", "/dev/null", "--backend", "xrender").pid)
         elif manager == "nobody":
@@ -36,11 +36,11 @@ def measure(command, manager, seconds):
         player = desk.start(*map(str, command))
         watched.append(player.pid)
         time.sleep(composed.WARM_UP + 12)
-        began, before = time.monotonic(), sum(map(cpu_of_tree, watched))
+        meter = Meter(*watched)
         time.sleep(seconds)
-        took, after = time.monotonic() - began, sum(map(cpu_of_tree, watched))
+        cost = meter.cost()
         assert player.poll() is None, f"{command[0]} ended early"
-    return (after - before) / took
+    return cost
 
 
 def main():

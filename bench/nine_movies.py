@@ -1,14 +1,15 @@
 #!/usr/bin/python3
-"""nine_movies.py [SECONDS]: what nine Flash movies over a 1080p clip cost, in CPU seconds per second of the whole process tree
-and of the X server, and in memory (PSS) of the tree. Beside it, in the same run: mpv with the clip alone, and the
+"""nine_movies.py [SECONDS]: what nine Flash movies over a 1080p clip cost, in CPU seconds per second of the whole process
+tree and of the X server, and in memory (PSS) of the tree. Beside it, in the same run: mpv with the clip alone, and the
 station's own window with the clip and no movie."""
 
 import sys
 import time
 
 import composed
-from composed import ROOT, clip, cpu_of_tree, pss_of_tree, x_server_of
+from composed import ROOT, clip
 from harness.desk import Desk
+from meter import Meter, pss_of_tree, x_server
 
 import movies  # the station's own, which the demo makes
 
@@ -29,16 +30,14 @@ NINE = [
 
 def measure(command, seconds):
     with Desk(1920, 1080) as desk:
-        server = x_server_of(desk)
         player = desk.start(*map(str, command))
         time.sleep(composed.WARM_UP + 6)
-        began, before = time.monotonic(), (cpu_of_tree(player.pid), cpu_of_tree(server))
+        meter = Meter(player.pid, x_server())
         time.sleep(seconds)
-        took, after = time.monotonic() - began, (cpu_of_tree(player.pid), cpu_of_tree(server))
-        memory = pss_of_tree(player.pid)
+        cost, memory = meter.cost(), pss_of_tree(player.pid)
         desk.screen.picture(ROOT / "build" / "bench-movies.png")
         assert player.poll() is None, f"{command[0]} ended early"
-    return sum(b - a for a, b in zip(before, after)) / took, memory
+    return cost, memory
 
 
 def main():

@@ -10,12 +10,12 @@ import subprocess
 import sys
 import time
 
-import composed
-from composed import ROOT, clip, cpu_of_tree, picture, pss_of_tree, x_server_of
+from composed import ROOT, clip, picture
 from crawl import TICKS, counts
 from harness import ini
 from harness.desk import Desk
 from harness.station import MOVIES, Station
+from meter import Meter, pss_of_tree, x_server
 
 import movies  # the station's own, which the demo makes
 
@@ -93,17 +93,12 @@ class Run:
         self.heard = desk.folder / "heard.txt"
         with open(self.heard, "wb") as out:
             self.process = subprocess.Popen([str(word) for word in command], stdout=out, env=desk.environment, cwd="/")
-        self._watched = self.process.pid, x_server_of(desk)
         time.sleep(SETTLED)
-        self._since = time.monotonic(), self._cpu()
-
-    def _cpu(self):
-        return sum(map(cpu_of_tree, self._watched))
+        self._meter = Meter(self.process.pid, x_server())
 
     def cost(self):
         assert self.process.poll() is None, "it ended early"
-        began, before = self._since
-        return (self._cpu() - before) / (time.monotonic() - began)
+        return self._meter.cost()
 
     def memory(self):
         return pss_of_tree(self.process.pid)
