@@ -23,10 +23,27 @@ LAID_OUT = 3
 # The first movie brings up the program that plays them all.
 MOVIES_UP = 8
 
+AD_SETTINGS = "Advertisment", "Ad Settings"
+# Each desk, the entries of the menu that lead to it, and its pictures: what is pressed before, the form that is seen (the
+# desk itself where none is named), and its name.
+DESKS = [
+    ("frmPlaylist", ("Broadcast", "Playlist manager"),
+     [([("Demo.plt", "list item"), ("welcome.mp4", "list item")], None, "playlist-manager")]),
+    ("frmAdSett", (*AD_SETTINGS, "Crawlers  Ad settings"),
+     [([("Bakery", "table cell")], None, "crawler-ads"), ([("Preview Ad",)], "frmAdView", "ad-preview")]),
+    ("frmVideoAdSett", (*AD_SETTINGS, "Video Ad settings"), [([("Sunrise bakery", "table cell")], None, "video-ads")]),
+    ("frmFlashAdSett", (*AD_SETTINGS, "Flash Ad settings"), [([("Demo", "list item")], None, "flash-ads")]),
+    ("frmLeftSideAdSett", (*AD_SETTINGS, "Left side Ad settings"), [([], None, "left-side-ads")]),
+    ("frmLogoSett", ("Logo", "Logo settings"),
+     [([("Demo", "list item"), ("logo.swf", "list item")], None, "logo-library")]),
+    ("frmBreakingNewsSett", ("Breaking nws", "Settings"), [([(stage.HEADLINES[0], "table cell")], None, "news-desk")]),
+]  # fmt: skip
 
-def take(screen, window, name):
-    """The window with its frame, as it is seen."""
-    command = ["import", "-display", screen.name, "-frame", "-window", str(window.number), "-depth", "8", "-strip"]
+
+def take(screen, form, name):
+    """The form's window with its frame, as it is seen."""
+    number = str(screen.window(form=form).number)
+    command = ["import", "-display", screen.name, "-frame", "-window", number, "-depth", "8", "-strip"]
     subprocess.run([*command, str(PICTURES / f"{name}.png")], check=True)
 
 
@@ -35,6 +52,19 @@ def take_place(screen, window, name):
     place = f"{window.width}x{window.height}+{window.x}+{window.y}"
     command = ["import", "-display", screen.name, "-window", "root", "-crop", place, "+repage", "-depth", "8", "-strip"]
     subprocess.run([*command, str(PICTURES / f"{name}.png")], check=True)
+
+
+def take_desk(screen, reader, form, entries, pictures):
+    """Opens a form from the menu, takes its pictures and closes it."""
+    reader.choose_entry(*entries)
+    desk = until(f"the form {form}", lambda: screen.window(form=form))
+    for presses, shown, name in pictures:
+        for what in presses:
+            reader.press(*what)
+        time.sleep(LAID_OUT)
+        take(screen, shown or form, name)
+    screen.ask_to_close(desk)
+    screen.keys("ctrl+m")
 
 
 def main():
@@ -46,65 +76,13 @@ def main():
             desk.start(folder / "corvanta")
             screen = desk.screen
             reader = Reader(screen)
-            control = until("the control window", lambda: screen.window(form="frmMid"))
+            until("the control window", lambda: screen.window(form="frmMid"))
             time.sleep(LAID_OUT)
-            take(screen, control, "control-window")
+            take(screen, "frmMid", "control-window")
             time.sleep(MOVIES_UP)
             take_place(screen, screen.window(form="frmPlayer"), "on-the-air")
-            reader.press("Broadcast", "menu item")
-            reader.press("Playlist manager", "menu item")
-            manager = until("the playlist manager", lambda: screen.window(form="frmPlaylist"))
-            reader.press("Demo.plt", "list item")
-            reader.press("welcome.mp4", "list item")
-            until("the duration", lambda: reader.text_of("Duration:") == "0:0:20")
-            time.sleep(1)
-            take(screen, manager, "playlist-manager")
-            screen.ask_to_close(manager)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Advertisment", "Ad Settings", "Crawlers  Ad settings")
-            ads = until("the desk of the crawler ads", lambda: screen.window(form="frmAdSett"))
-            reader.press("Bakery", "table cell")
-            time.sleep(1)
-            take(screen, ads, "crawler-ads")
-            reader.press("Preview Ad")
-            preview = until("the preview", lambda: screen.window(form="frmAdView"))
-            time.sleep(LAID_OUT)
-            take(screen, preview, "ad-preview")
-            screen.ask_to_close(ads)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Advertisment", "Ad Settings", "Video Ad settings")
-            videos = until("the desk of the video ads", lambda: screen.window(form="frmVideoAdSett"))
-            reader.press("Sunrise bakery", "table cell")
-            time.sleep(LAID_OUT)
-            take(screen, videos, "video-ads")
-            screen.ask_to_close(videos)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Advertisment", "Ad Settings", "Flash Ad settings")
-            flash = until("the desk of the flash ads", lambda: screen.window(form="frmFlashAdSett"))
-            reader.press("Demo", "list item")
-            time.sleep(LAID_OUT)
-            take(screen, flash, "flash-ads")
-            screen.ask_to_close(flash)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Advertisment", "Ad Settings", "Left side Ad settings")
-            column = until("the desk of the left side ads", lambda: screen.window(form="frmLeftSideAdSett"))
-            time.sleep(LAID_OUT)
-            take(screen, column, "left-side-ads")
-            screen.ask_to_close(column)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Logo", "Logo settings")
-            library = until("the library of the logo", lambda: screen.window(form="frmLogoSett"))
-            reader.press("Demo", "list item")
-            reader.press("logo.swf", "list item")
-            time.sleep(LAID_OUT)
-            take(screen, library, "logo-library")
-            screen.ask_to_close(library)
-            screen.keys("ctrl+m")
-            reader.choose_entry("Breaking nws", "Settings")
-            news = until("the desk of the news strip", lambda: screen.window(form="frmBreakingNewsSett"))
-            reader.press(stage.HEADLINES[0], "table cell")
-            time.sleep(1)
-            take(screen, news, "news-desk")
+            for row in DESKS:
+                take_desk(screen, reader, *row)
     finally:
         shutil.rmtree(folder, ignore_errors=True)
 
