@@ -1,35 +1,46 @@
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+
 #include "platform/WebAddress.h"
 
 namespace {
 
+// What an operator types and the address that the browser is given for it.
+struct Typed {
+  const char* text;
+  const char* address;
+};
+
+void ExpectAddresses(std::initializer_list<Typed> rows) {
+  for (const Typed& row : rows) EXPECT_EQ(WebAddress(row.text), row.address);
+}
+
 TEST(WebAddressTest, AnAddressWithoutASchemeIsTakenAsBrowsersTakeIt) {
-  EXPECT_EQ(WebAddress("news.example"), "http://news.example");
-  EXPECT_EQ(WebAddress("www.news.example/today?x=1"), "http://www.news.example/today?x=1");
-  EXPECT_EQ(WebAddress("//news.example/a"), "http://news.example/a");
+  ExpectAddresses({{"news.example", "http://news.example"},
+                   {"www.news.example/today?x=1", "http://www.news.example/today?x=1"},
+                   {"//news.example/a", "http://news.example/a"}});
 }
 
 TEST(WebAddressTest, APortIsNoScheme) {
-  EXPECT_EQ(WebAddress("localhost:8080"), "http://localhost:8080");
-  EXPECT_EQ(WebAddress("localhost:8080/a"), "http://localhost:8080/a");
-  EXPECT_EQ(WebAddress("10.0.0.1:80"), "http://10.0.0.1:80");
+  ExpectAddresses({{"localhost:8080", "http://localhost:8080"},
+                   {"localhost:8080/a", "http://localhost:8080/a"},
+                   {"10.0.0.1:80", "http://10.0.0.1:80"}});
 }
 
 TEST(WebAddressTest, AnAddressWithASchemeStaysAsItIs) {
-  EXPECT_EQ(WebAddress("http://news.example"), "http://news.example");
-  EXPECT_EQ(WebAddress("HTTPS://News.Example/A"), "HTTPS://News.Example/A");
-  EXPECT_EQ(WebAddress("file:///srv/page.html"), "file:///srv/page.html");
+  for (const char* address : {"http://news.example", "HTTPS://News.Example/A", "file:///srv/page.html"}) {
+    ExpectAddresses({{address, address}});
+  }
 }
 
 TEST(WebAddressTest, APathIsTheAddressOfAFile) {
-  EXPECT_EQ(WebAddress("/srv/page.html"), "file:///srv/page.html");
-  EXPECT_EQ(WebAddress("/srv/100% new #1?.html"), "file:///srv/100%25%20new%20%231%3F.html");
+  ExpectAddresses({{"/srv/page.html", "file:///srv/page.html"},
+                   {"/srv/100% new #1?.html", "file:///srv/100%25%20new%20%231%3F.html"}});
 }
 
 TEST(WebAddressTest, BlanksAndLineEndsDoNotCount) {
-  EXPECT_EQ(WebAddress("  news.example\r\n"), "http://news.example");
-  EXPECT_EQ(WebAddress("news.\r\nexample"), "http://news.example");
+  ExpectAddresses({{"  news.example\r\n", "http://news.example"}, {"news.\r\nexample", "http://news.example"}});
 }
 
 TEST(WebAddressTest, WhatIsNoPageGivesNothing) {
