@@ -58,19 +58,20 @@ class Screen:
         """The form in front of all others."""
         return next((seen.form for seen in reversed(self.windows()) if seen.form), None)
 
-    def pixels(self, x, y, width, height):
-        """Rows of (red, green, blue); black where the rectangle cannot be read."""
+    def rows(self, x, y, width, height):
+        """What is seen there, a string of bytes for each row; all zeros where the rectangle cannot be read."""
         image = xlib.XGetImage(self._display, self._root, x, y, width, height, ALL_PLANES, Z_PIXMAP)
         if not image:
-            return [[(0, 0, 0)] * width for _ in range(height)]
+            return [bytes(4 * width)] * height
         head = image.contents
         raw = ctypes.string_at(head.data, head.bytes_per_line * head.height)
-        rows = []
-        for row in range(height):
-            line = raw[row * head.bytes_per_line :][: 4 * width]
-            rows.append([(line[i + 2], line[i + 1], line[i]) for i in range(0, 4 * width, 4)])
         xlib.XDestroyImage(image)
-        return rows
+        return [raw[row * head.bytes_per_line :][: 4 * width] for row in range(height)]
+
+    def pixels(self, x, y, width, height):
+        """Rows of (red, green, blue); black where the rectangle cannot be read."""
+        rows = self.rows(x, y, width, height)
+        return [[(line[i + 2], line[i + 1], line[i]) for i in range(0, 4 * width, 4)] for line in rows]
 
     def pixel(self, x, y):
         return self.pixels(x, y, 1, 1)[0][0]
