@@ -1,6 +1,7 @@
 #include "platform/toolkit/DatePicker.h"
 #include "platform/toolkit/Failure.h"
 #include "platform/toolkit/FileListBox.h"
+#include "platform/toolkit/ListBox.h"
 #include "platform/toolkit/MenuItem.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
@@ -24,6 +25,7 @@ class frmControls : public Form {
   ::Slider Slider{*this, "Slider"};
   DatePicker Date{*this, "Date"};
   FileListBox Files{*this, "Files"};
+  ListBox List{*this, "List"};
   MenuItem Entry{*this, "Entry"};
   TrayIcon Tray{*this, "Tray"};
   PictureBox Pane{*this, "Pane"};
@@ -184,7 +186,7 @@ TEST_F(ControlsTest, ASelectedFileIsNamedWithAndWithoutItsFolderAndARefreshSelec
   EXPECT_EQ(form.Files.ListIndex.Get(), -1);
   EXPECT_EQ(clicks, 2);
   form.Files.Pick(7);
-  EXPECT_EQ(sim.trace.Take().back(), "box \"There is no such file in Files.\" \"Corvanta 6.0\"");
+  EXPECT_EQ(sim.trace.Take().back(), "box \"There is no such row in Files.\" \"Corvanta 6.0\"");
   form.Files.Path = "/";
   form.Files.Pick(0);
   EXPECT_EQ(form.Files.FilePath(), "/root.mp4");
@@ -273,6 +275,40 @@ TEST_F(ControlsTest, APictureGivesItsSizeToAPaneThatIsSizedByItAndToNoOther) {
   EXPECT_EQ(form.Sized.Width, 0);
   EXPECT_EQ(form.Sized.Height, 0);
   EXPECT_EQ(form.Sized.Picture.Get().path, "");
+}
+
+TEST_F(ControlsTest, AListBoxHoldsWhatIsAddedInItsOrderTwinsToo) {
+  const int& items = Count(form.List.ItemsChanged);
+  for (const char* item : {"b", "a", "b"}) form.List.AddItem(item);
+  EXPECT_EQ(items, 3);
+  EXPECT_EQ(form.List.ListCount(), 3);
+  EXPECT_EQ(form.List.List(1), "a");
+  EXPECT_EQ(form.List.Text(), "");
+  EXPECT_THROW(form.List.ListIndex = 3, Failure);
+  EXPECT_EQ(form.List.ListIndex.Get(), -1);
+}
+
+TEST_F(ControlsTest, ARowOfAListBoxThatIsPickedIsItsTextAndADoubleClickComesBehindTheClick) {
+  const int& clicks = Count(form.List.Click);
+  const int& doubles = Count(form.List.DblClick);
+  for (const char* item : {"a", "b"}) form.List.AddItem(item);
+  form.List.Pick(1);
+  EXPECT_EQ(form.List.Text(), "b");
+  EXPECT_EQ(clicks, 1);
+  form.List.DoubleClick();
+  EXPECT_EQ(doubles, 1);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ControlsTest, AListBoxThatIsClearedHasNothingSelectedAndRaisesNoClick) {
+  form.List.AddItem("a");
+  form.List.Pick(0);
+  const int& clicks = Count(form.List.Click);
+  form.List.Clear();
+  EXPECT_EQ(form.List.ListCount(), 0);
+  EXPECT_EQ(form.List.ListIndex.Get(), -1);
+  EXPECT_EQ(form.List.Text(), "");
+  EXPECT_EQ(clicks, 0);
 }
 
 TEST_F(ControlsTest, APlayerIsToldWhatItsControlIsToldAndTellsItsState) {

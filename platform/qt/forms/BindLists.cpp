@@ -64,6 +64,27 @@ std::vector<QIcon> Icons(const QWidget& widget) {
   return icons;
 }
 
+void BindNames(Joint& joint, NameList& control, NameModel::Icons icons, NameView& widget) {
+  auto* model = new NameModel(control, icons, &widget);
+  widget.setModel(model);
+  joint.AtEnd([model] { model->Forget(); });
+  const auto show = [&control, &widget, model] {
+    const QModelIndex index = model->index(control.ListIndex, 0);
+    if (index.isValid()) {
+      widget.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    } else {
+      widget.selectionModel()->clear();
+    }
+  };
+  joint.Watch(control.ItemsChanged, [model, show] {
+    model->Refill();
+    show();
+  });
+  joint.Follow(control.ListIndex.Changed, show);
+  joint.On(&widget, &NameView::picked, [&control](int row) { control.Pick(row); });
+  joint.On(&widget, &NameView::strayed, show);
+}
+
 }  // namespace
 
 void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces&) {
@@ -99,24 +120,12 @@ void Bind(Joint& joint, ListView& control, RowView& widget, const Surfaces&) {
 }
 
 void Bind(Joint& joint, FileListBox& control, NameView& widget, const Surfaces&) {
-  auto* model = new NameModel(control, &widget);
-  widget.setModel(model);
-  joint.AtEnd([model] { model->Forget(); });
-  const auto show = [&control, &widget, model] {
-    const QModelIndex index = model->index(control.ListIndex, 0);
-    if (index.isValid()) {
-      widget.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    } else {
-      widget.selectionModel()->clear();
-    }
-  };
-  joint.Watch(control.ItemsChanged, [model, show] {
-    model->Refill();
-    show();
-  });
-  joint.Follow(control.ListIndex.Changed, show);
-  joint.On(&widget, &NameView::picked, [&control](int row) { control.Pick(row); });
-  joint.On(&widget, &NameView::strayed, show);
+  BindNames(joint, control, NameModel::Icons::kFiles, widget);
+}
+
+void Bind(Joint& joint, ListBox& control, NameView& widget, const Surfaces&) {
+  BindNames(joint, control, NameModel::Icons::kNone, widget);
+  joint.On(&widget, &NameView::doubled, [&control] { control.DoubleClick(); });
 }
 
 void Bind(Joint& joint, DrawnList& control, DrawnView& widget, const Surfaces& surfaces) {

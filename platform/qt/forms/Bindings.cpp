@@ -39,6 +39,7 @@ constexpr Binding kBindings[] = {
     Row<StatusBar, QStatusBar>("StatusBar"),
     Row<PlayerControl, QWidget>("PlayerControl"),
     Row<FileListBox, NameView>("FileListBox"),
+    Row<ListBox, NameView>("ListBox"),
     Row<ListView, RowView>("ListView"),
     Row<DrawnList, DrawnView>("DrawnList"),
 };

@@ -21,5 +21,5 @@ QVariant NameModel::data(const QModelIndex& index, int role) const {
   if (control_ == nullptr || !index.isValid() || index.row() >= control_->ListCount()) return {};
   const QString name = Shown(control_->List(index.row()));
   if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return name;
-  return role == Qt::DecorationRole ? QVariant(FileIcon(name)) : QVariant();
+  return role == Qt::DecorationRole && icons_ == Icons::kFiles ? QVariant(FileIcon(name)) : QVariant();
 }

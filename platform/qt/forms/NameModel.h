@@ -2,16 +2,18 @@
 
 #include <QAbstractListModel>
 
-#include "platform/toolkit/FileListBox.h"
+#include "platform/toolkit/NameList.h"
 
-// The names of a file list box control, read from it as they are drawn.
+// The names of a list control, read from it as they are drawn.
 class NameModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  NameModel(const FileListBox& control, QObject* parent) : QAbstractListModel(parent), control_(&control) {}
+  enum class Icons { kNone, kFiles };
+  NameModel(const NameList& control, Icons icons, QObject* parent)
+      : QAbstractListModel(parent), control_(&control), icons_(icons) {}
 
-  // The control has read its folder.
+  // The control holds other names.
   void Refill();
   // The control is going: there are no names any more.
   void Forget();
@@ -20,5 +22,6 @@ class NameModel : public QAbstractListModel {
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:
-  const FileListBox* control_;
+  const NameList* control_;
+  Icons icons_;
 };

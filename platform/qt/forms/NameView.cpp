@@ -24,8 +24,11 @@ void NameView::mouseMoveEvent(QMouseEvent* event) {
 
 void NameView::mouseDoubleClickEvent(QMouseEvent* event) {
   const QModelIndex at = indexAt(event->position().toPoint());
-  if (at.isValid() && at == currentIndex()) return;
-  mousePressEvent(event);
+  if (!at.isValid() || at != currentIndex()) {
+    mousePressEvent(event);
+  } else if (event->button() == Qt::LeftButton) {
+    emit doubled();
+  }
 }
 
 void NameView::mouseReleaseEvent(QMouseEvent* event) {

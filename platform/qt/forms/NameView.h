@@ -4,7 +4,7 @@
 #include <QPersistentModelIndex>
 
 // A plain list of names: a click on one picks it, also when it is selected already, and so does moving to it by key.
-// The second half of a double click picks nothing.
+// The second half of a double click picks nothing: it tells of the double click.
 class NameView : public QListView {
   Q_OBJECT
 
@@ -13,6 +13,7 @@ class NameView : public QListView {
 
  signals:
   void picked(int row);  // from 0
+  void doubled();        // a double click on the row that its first half has picked
   // The pointer left the row that it had pressed: nothing is picked, and the view shows a row that nobody chose.
   void strayed();
 

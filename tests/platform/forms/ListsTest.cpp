@@ -165,6 +165,25 @@ TEST_F(ListsTest, APressThatIsLetGoElsewherePicksNothingAndTheViewGoesBack) {
   EXPECT_EQ(Names().currentIndex().row(), 0);
 }
 
+TEST_F(ListsTest, AListBoxShowsItsTextsWithoutIconsAndADoubleClickIsAClickAndADoubleClick) {
+  auto& list = Shown<NameView>(form.names);
+  int doubles = 0;
+  form.names.Click.Connect([this] { heard.push_back(form.names.ListIndex); });
+  form.names.DblClick.Connect([&] { ++doubles; });
+  for (const char* name : {"a", "b"}) form.names.AddItem(name);
+  ASSERT_EQ(list.model()->rowCount(), 2);
+  EXPECT_TRUE(list.model()->index(1, 0).data(Qt::DecorationRole).isNull());
+  Click(list, 1);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, At(list, 1));
+  EXPECT_EQ(heard, std::vector<int>{1});
+  EXPECT_EQ(doubles, 1);
+  QTest::mouseDClick(list.viewport(), Qt::RightButton, {}, At(list, 1));
+  EXPECT_EQ(doubles, 1);
+  form.names.Clear();
+  EXPECT_EQ(list.model()->rowCount(), 0);
+  EXPECT_FALSE(list.currentIndex().isValid());
+}
+
 TEST_F(ListsTest, AFolderThatIsReadAgainShowsItsNewFilesWithNothingSelected) {
   FillFiles();
   Click(Names(), 1);

@@ -3,6 +3,7 @@
 #include "platform/toolkit/DatePicker.h"
 #include "platform/toolkit/FileListBox.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/ListBox.h"
 #include "platform/toolkit/ListView.h"
 #include "platform/toolkit/PlayerControl.h"
 #include "platform/toolkit/Widgets.h"
@@ -24,4 +25,5 @@ class SampleForm : public Form {
   Label label{*this, "lblTime"};
   ListView rows{*this, "ListPlay"};
   FileListBox files{*this, "FileList"};
+  ListBox names{*this, "FilePlaylist"};
 };
