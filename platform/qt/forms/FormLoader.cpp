@@ -1,5 +1,6 @@
 #include "platform/qt/forms/FormLoader.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QUiLoader>
 #include <QWidget>
@@ -32,6 +33,20 @@ class Loader : public QUiLoader {
   }
 };
 
+// A loader asks every plugin of Qt's form designer that is installed for its widgets, as soon as it is made. One of
+// them brings a whole browser into the process; no form has a widget of any. So there is one loader, made where it
+// finds none.
+Loader& TheLoader() {
+  static Loader& loader = []() -> Loader& {
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    auto* made = new Loader;  // never destroyed: the application may be gone before it
+    QCoreApplication::setLibraryPaths(paths);
+    return *made;
+  }();
+  return loader;
+}
+
 }  // namespace
 
 std::unique_ptr<QWidget> LoadLayout(const QString& file) {
@@ -40,7 +55,7 @@ std::unique_ptr<QWidget> LoadLayout(const QString& file) {
     qWarning("There is no layout %s", qPrintable(file));
     return nullptr;
   }
-  Loader loader;
+  Loader& loader = TheLoader();
   std::unique_ptr<QWidget> window(loader.load(&opened));
   if (!window) qWarning("%s: %s", qPrintable(file), qPrintable(loader.errorString()));
   return window;
