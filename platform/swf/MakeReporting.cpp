@@ -21,6 +21,18 @@ bool IsScript3(const std::vector<Tag>& tags) {
   return !tags.empty() && tags[0].code == kFileAttributes && (ByteReader(tags[0].body).U8() & kScript3) != 0;
 }
 
+bool IsSound(const Tag& tag) { return tag.code == kDefineSound || tag.code == kSoundStreamBlock; }
+
+// A clip holds no other one; one that does is believed to hold anything.
+bool HoldsSounds(const std::vector<Tag>& tags) {
+  constexpr std::size_t kClipHead = 4;  // its number and its frames
+  const auto isHeard = [](const Tag& tag) { return IsSound(tag) || tag.code == kDefineSprite; };
+  return std::ranges::any_of(tags, [&](const Tag& tag) {
+    if (tag.code != kDefineSprite) return IsSound(tag);
+    return std::ranges::any_of(ReadTags(tag.body, kClipHead), isHeard);
+  });
+}
+
 // What may stand before the first action of a frame.
 bool StandsFirst(int code) {
   constexpr std::array kFirst = {kEnd,          kSetBackgroundColor,
@@ -127,6 +139,7 @@ std::optional<ReportingMovie> MakeReporting(std::string_view movie, std::string_
   const std::vector<Tag> tags = ReadTags(movie, header->tagsAt);
   ReportingMovie reporting;
   reporting.script3 = IsScript3(tags);
+  reporting.sounds = reporting.script3 || HoldsSounds(tags);
   const std::string written =
       reporting.script3 ? WithClass(tags, reporting) : WithReports(tags, helperAddress, reporting);
   reporting.bytes = WithTags(movie, *header, written);

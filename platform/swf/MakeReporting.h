@@ -12,6 +12,7 @@ namespace swf {
 struct ReportingMovie {
   std::string bytes;     // unpacked
   bool script3 = false;  // it is one of ActionScript 3
+  bool sounds = false;   // it may: there are sounds in it, or its scripts could make some (ActionScript 3)
   int frames = 0;        // that it shows, whatever its header says
   std::vector<WrappedField> fields;
 };

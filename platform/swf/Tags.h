@@ -15,6 +15,8 @@ enum TagCode : int {
   kDefineButton = 7,
   kSetBackgroundColor = 9,
   kDoAction = 12,
+  kDefineSound = 14,
+  kSoundStreamBlock = 19,
   kProtect = 24,
   kPlaceObject2 = 26,
   kDefineButton2 = 34,

@@ -62,6 +62,25 @@ TEST(MakeReportingTest, WhatMustStandFirstGoesOnStandingFirst) {
   EXPECT_EQ(CodesOf(movie.bytes), (std::vector<int>{69, 77, 9, 12, 1, 0}));
 }
 
+TEST(MakeReportingTest, AMovieSoundsWithASoundInItOrInOneOfItsClips) {
+  const std::string sound = swf::WriteTag(swf::kDefineSound, std::string(20, '\1'));
+  const std::string stream = swf::WriteTag(swf::kSoundStreamBlock, "abcd");
+  EXPECT_TRUE(Made(sound + Show() + End()).sounds);
+  EXPECT_TRUE(Made(Show() + stream + Show() + End()).sounds);
+  EXPECT_TRUE(Made(Sprite(1, stream + Show() + End()) + Show() + End()).sounds);
+}
+
+TEST(MakeReportingTest, AMovieWithoutSoundsIsSilentThoughItSaysHowTheyWouldSound) {
+  constexpr int kSoundStreamHead2 = 45;
+  const std::string head = swf::WriteTag(kSoundStreamHead2, std::string(4, '\0'));
+  EXPECT_FALSE(Made(head + Sprite(1, head + Show() + End()) + Show() + End()).sounds);
+}
+
+TEST(MakeReportingTest, WhatCannotBeLookedIntoMaySound) {
+  EXPECT_TRUE(Made(Script3Attributes() + Show() + End()).sounds);
+  EXPECT_TRUE(Made(Sprite(1, Sprite(2, Show() + End()) + End()) + Show() + End()).sounds);
+}
+
 TEST(MakeReportingTest, TheLengthInTheHeaderIsRight) {
   const auto movie = Made(Show() + End());
   EXPECT_EQ(swf::ByteReader(movie.bytes, 4).U32(), movie.bytes.size());
