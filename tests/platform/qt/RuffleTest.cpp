@@ -70,6 +70,7 @@ std::vector<pid_t> ProcessesWith(const std::string& word) {
 }
 
 constexpr char kBrowser[] = "QtWebEngineProcess";
+constexpr char kSound[] = "audio.mojom.AudioService";
 
 // A renderer is made by one of the browser's own processes.
 void KillTheRenderer() {
@@ -145,6 +146,18 @@ TEST_F(RuffleTest, NoBrowserRunsBeforeTheFirstMovieAndNoneAfterTheLastSurface) {
     EXPECT_FALSE(ProcessesWith(kBrowser).empty());
   }
   EXPECT_TRUE(Until([] { return ProcessesWith(kBrowser).empty(); }));
+}
+
+TEST_F(RuffleTest, OnlyAMovieWithSoundsHasAProcessForThem) {
+  Seen seen(world.world.flash, {60, 60});
+  seen.surface->Put(File("silent.swf", Shows(3)));
+  ASSERT_TRUE(Until([&] { return seen.frames.size() > 30; }));
+  EXPECT_TRUE(ProcessesWith(kSound).empty());
+  constexpr char kUnpacked16Bits = 0x3e;  // at 44,100 a second, for one ear
+  std::string sound("\1\0 \4\0\0\0abcdefgh", 15);
+  sound[2] = kUnpacked16Bits;
+  seen.surface->Put(File("heard.swf", swf::WriteTag(swf::kDefineSound, sound) + Shows(3)));
+  EXPECT_TRUE(Until([&] { return !ProcessesWith(kSound).empty(); }));
 }
 
 TEST_F(RuffleTest, AMovieIsSeenInItsOwnBackgroundOrWithNothingBehind) {

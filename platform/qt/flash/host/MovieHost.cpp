@@ -160,6 +160,7 @@ void MovieHost::Load(int number) {
                                                 {"rate", header->framesPerSecond},
                                                 {"frames", reporting->frames},
                                                 {"script3", reporting->script3},
+                                                {"sounds", reporting->sounds},
                                                 {"fields", FieldsOf(*reporting)},
                                                 {"fit", movie.fill ? "exactFit" : "showAll"},
                                                 {"back", movie.seeThrough ? "transparent" : "opaque"},
