@@ -6,12 +6,24 @@
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/MovieHost.h"
 
+namespace {
+
+// One process renders all pages. None is kept for starting processes without a box: none of those is ever many.
+//
+// Of the player's code each function is looked through and translated when it is first called, since the most of it
+// never is. Locking the memory that it goes into behind each of them would take longer than translating it does.
+constexpr char kBrowser[] =
+    "--process-per-site --no-unsandboxed-zygote "
+    "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory\"";
+
+}  // namespace
+
 // Plays the movies of the station that started it, which is at the other end of descriptor 3; it ends with it.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");  // nothing of it is ever on a screen
+  qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
-  // One process renders all pages.
-  qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--process-per-site");
+  qputenv("QTWEBENGINE_CHROMIUM_FLAGS", kBrowser);
   QLoggingCategory::setFilterRules("qt.webenginecontext*=false\njs*=false\nqt.qml*=false");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   Answers::RegisterScheme();
