@@ -62,7 +62,10 @@ uchar* SharedFrames::Picture(std::uint32_t number) const {
 
 uchar* SharedFrames::Paint() { return Picture(own_); }
 
-void SharedFrames::Publish() { own_ = head_->waiting.exchange(own_ | kFresh, std::memory_order_acq_rel) & ~kFresh; }
+void SharedFrames::Publish() {
+  published_ = own_;
+  own_ = head_->waiting.exchange(own_ | kFresh, std::memory_order_acq_rel) & ~kFresh;
+}
 
 std::optional<QImage> SharedFrames::Take(const std::shared_ptr<SharedFrames>& frames) {
   if (!frames || (frames->head_->waiting.load(std::memory_order_acquire) & kFresh) == 0) return std::nullopt;

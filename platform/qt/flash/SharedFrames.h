@@ -30,6 +30,8 @@ class SharedFrames {
   uchar* Paint();
   int Stride() const { return size_.width() * 4; }
   void Publish();
+  // The rows of what was published last, which nobody writes; null before that.
+  const uchar* Published() const { return published_ ? Picture(*published_) : nullptr; }
 
   // The showing side. The newest picture, once; it stays untouched until the next call that gives one.
   static std::optional<QImage> Take(const std::shared_ptr<SharedFrames>& frames);
@@ -48,4 +50,5 @@ class SharedFrames {
   Head* head_;
   QSize size_;
   std::uint32_t own_ = 0;  // the picture that this side has
+  std::optional<std::uint32_t> published_;
 };

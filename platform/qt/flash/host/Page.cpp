@@ -5,6 +5,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickRenderTarget>
 #include <algorithm>
 #include <cstring>
 
@@ -72,6 +73,9 @@ void Page::Fit() {
   window_->setGeometry(0, 0, size.width(), size.height());
   window_->contentItem()->setSize(size);
   view_->setSize(size);
+  picture_ = QImage(size, QImage::Format_ARGB32_Premultiplied);
+  picture_.fill(Qt::transparent);
+  window_->setRenderTarget(QQuickRenderTarget::fromPaintDevice(&picture_));
 }
 
 void Page::Call(const QString& function, const QJsonArray& arguments) {
@@ -144,44 +148,46 @@ bool Page::IsAlive() const {
 void Page::Paint() {
   sincePainted_.restart();
   if (!IsAlive()) return;
-  const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  control_.polishItems();
+  control_.sync();
+  control_.render();
   QList<int> changed;
   for (auto& [slot, part] : parts_) {
     const bool isThere =
-        part.frames && part.laidOut && part.up && !MustWait(part, picture) && picture.rect().contains(part.place);
-    if (!isThere || part.frames->Size() != part.place.size() || (!part.fresh && !Changed(part, picture))) continue;
+        part.frames && part.laidOut && part.up && !MustWait(part) && picture_.rect().contains(part.place);
+    if (!isThere || part.frames->Size() != part.place.size() || (!part.fresh && !Changed(part))) continue;
     part.fresh = false;
     uchar* to = part.frames->Paint();
     const int stride = part.frames->Stride();
     for (int row = 0; row < part.place.height(); ++row) {
-      std::memcpy(to + row * stride, picture.constScanLine(part.place.y() + row) + part.place.x() * 4,
+      std::memcpy(to + row * stride, picture_.constScanLine(part.place.y() + row) + part.place.x() * 4,
                   static_cast<std::size_t>(stride));
     }
     part.frames->Publish();
     changed << slot;
   }
-  picture_ = picture;
   if (!changed.isEmpty()) listener_.pictures(changed);
 }
 
 // The browser may paint the first picture of a movie later than the page says so. Until then the last one stays; a
 // movie that begins with nothing to be seen is believed after a while.
-bool Page::MustWait(const Part& part, const QImage& picture) const {
+bool Page::MustWait(const Part& part) const {
   if (!part.fresh || part.sinceUp.hasExpired(kLongestBlank)) return false;
-  const QRect place = part.place & picture.rect();
+  const QRect place = part.place & picture_.rect();
   for (int row = place.top(); row <= place.bottom(); ++row) {
-    const auto* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row)) + place.left();
+    const auto* pixels = reinterpret_cast<const QRgb*>(picture_.constScanLine(row)) + place.left();
     if (std::any_of(pixels, pixels + place.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; })) return false;
   }
   return true;
 }
 
-bool Page::Changed(const Part& part, const QImage& picture) const {
-  if (picture_.size() != picture.size()) return true;
-  const auto bytes = static_cast<std::size_t>(part.place.width()) * 4;
-  for (int row = part.place.top(); row <= part.place.bottom(); ++row) {
-    const int from = part.place.x() * 4;
-    if (std::memcmp(picture.constScanLine(row) + from, picture_.constScanLine(row) + from, bytes) != 0) return true;
+bool Page::Changed(const Part& part) const {
+  const uchar* shown = part.frames->Published();
+  if (shown == nullptr) return true;
+  const int stride = part.frames->Stride();
+  for (int row = 0; row < part.place.height(); ++row) {
+    const uchar* now = picture_.constScanLine(part.place.y() + row) + part.place.x() * 4;
+    if (std::memcmp(now, shown + row * stride, static_cast<std::size_t>(stride)) != 0) return true;
   }
   return false;
 }

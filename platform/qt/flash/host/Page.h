@@ -59,11 +59,12 @@ class Page : public QObject {
   void Ask();
   void Paint();
   bool IsAlive() const;
-  bool Changed(const Part& part, const QImage& picture) const;
-  bool MustWait(const Part& part, const QImage& picture) const;
+  bool Changed(const Part& part) const;
+  bool MustWait(const Part& part) const;
 
   Listener listener_;
   QQuickRenderControl control_;
+  QImage picture_;  // what the window is painted into, only where it has changed
   std::unique_ptr<QQuickWindow> window_;
   QQuickItem* view_ = nullptr;
   Shelves shelves_;
@@ -71,7 +72,6 @@ class Page : public QObject {
   QStringList calls_;  // that wait for the page
   bool ready_ = false;
   int reloads_ = 0;
-  QImage picture_;  // the last one
   QTimer due_;
   QElapsedTimer sincePainted_;
 };
