@@ -40,8 +40,9 @@ const movies = (() => {
     Object.assign(movie.element.style, {left: x + 'px', top: y + 'px', width: width + 'px', height: height + 'px'});
   }
 
+  // A movie that is coming up waits for several ticks, which nobody wants to wait for.
   function setRate() {
-    clock.setRate(Math.max(1, ...all().map(movie => movie.rate)));
+    clock.setRate(Math.max(1, ...all().map(movie => (movie.up ? movie.rate : clock.FASTEST))));
   }
 
   function remove(movie) {
@@ -100,6 +101,7 @@ const movies = (() => {
       slot.coming = null;
       movie.element.style.opacity = '1';
       remove(old);
+      setRate();
       tell('up', movie.slot, movie.serial);
     });
   }
