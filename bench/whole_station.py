@@ -2,8 +2,8 @@
 """whole_station.py [SECONDS] [MINUTES]: a station with nine movies (header, two caps, side column, logo, clock, flash ad,
 sticker, news strip) and the crawl over a 1080p clip: CPU seconds per second of the whole process tree and of the X
 server, memory (PSS) of the tree, and late ticks. Beside it, in the same run: mpv with the clip alone, and the station
-with a still logo, and with nothing, over the clip. With MINUTES it then plays on for so long and prints the memory of
-each, the movies of column and flash ad following each other all the time."""
+with a still logo, and with nothing, over the clip. With MINUTES it then plays on for so long and prints its memory
+meanwhile, the movies of column and flash ad following each other all the time; `memory.py` does that alone."""
 
 import shutil
 import subprocess
@@ -21,7 +21,7 @@ import movies  # the station's own, which the demo makes
 
 PROGRAM = MOVIES.with_name("station_on_air")
 SETTLED = 20
-STEADY_FROM = 10  # minutes
+LOOKS = 30  # at the memory, in all
 SCREEN = 1920, 1080
 TWIPS = 15
 
@@ -55,10 +55,10 @@ def with_nine_movies(desk):
         windows[form] = window(*place)
     ini.write(station.folder / "Window.ini", windows)
     put(media / "FlashBN" / "bn.swf", movies.breaking_news())
-    for library, write in (("FlashAd", movies.flash_ad), ("LeftSideAd", movies.side_ad)):
+    for library, write, width in (("FlashAd", movies.flash_ad, 400), ("LeftSideAd", movies.side_ad, 300)):
         for name, colour in (("a", (110, 60, 30, 235)), ("b", (30, 60, 110, 235))):
             put(media / library / "Shop" / f"{name}.swf", write(colour, "Fresh coffee"))
-        station.change(library, Show="True", Width=6000, Height=1800, LastPath=str(media / library / "Shop"))
+        station.change(library, Show="True", Width=width * TWIPS, Height=120 * TWIPS, LastPath=str(media / library / "Shop"))
     ad = station.crawler_ad("ad", picture("header.jpg", "1920x40"), picture("scroll.jpg", "6000x90"),
                             header_height=600, Header="header.swf", Left="left.swf", Right="right.swf")
     put(ad / "header.swf", movies.band((10, 40, 120, 150), "Header of the channel"))
@@ -125,17 +125,17 @@ def measure(name, make, seconds, minutes=0):
 
 
 def watch_memory(run, minutes):
-    """Prints the memory each minute, and how it has grown since it should be steady."""
+    """Prints the memory now and then, and how it has grown behind the first third, when it should be steady."""
     seen = []
-    for minute in range(1, minutes + 1):
-        time.sleep(60)
+    for look in range(1, LOOKS + 1 if minutes else 1):
+        time.sleep(minutes * 60 / LOOKS)
         seen.append(run.memory())
-        print(f"  after {minute} minutes {seen[-1]:.0f} MB", flush=True)
-    steady = seen[STEADY_FROM - 1 :]
-    if len(steady) > 1:
+        print(f"  after {minutes * look / LOOKS:.1f} minutes {seen[-1]:.0f} MB", flush=True)
+    steady = seen[LOOKS // 3 :]
+    if steady:
         half = len(steady) // 2
         first, last = sum(steady[:half]) / half, sum(steady[-half:]) / half
-        print(f"  from minute {STEADY_FROM} on: {first:.0f} MB in the first half, {last:.0f} MB in the last, "
+        print(f"  behind the first third: {first:.0f} MB in the first half, {last:.0f} MB in the last, "
               f"between {min(steady):.0f} and {max(steady):.0f} MB")  # fmt: skip
 
 
