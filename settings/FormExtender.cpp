@@ -74,13 +74,17 @@ void FormExtender::Write() {
   StopWaiting();
   if (seen_ == written_) return;
   written_ = seen_;
-  const auto write = [this](const char* key, Twips value) {
-    file_.WriteValue(Owner().Name(), key, SingleText(static_cast<float>(value)));
-  };
-  write("Left", seen_->left);
-  write("Top", seen_->top);
-  write("Width", seen_->width);
-  write("Height", seen_->height);
+  file_.Rewrite([this](const IniDocument& before) {
+    IniDocument after = before;
+    const auto put = [&](const char* key, Twips value) {
+      after = after.WithValue(Owner().Name(), key, SingleText(static_cast<float>(value)));
+    };
+    put("Left", seen_->left);
+    put("Top", seen_->top);
+    put("Width", seen_->width);
+    put("Height", seen_->height);
+    return after;
+  });
 }
 
 void FormExtender::StopWaiting() {

@@ -10,7 +10,8 @@
 #include "settings/IniFile.h"
 
 // Remembers where its form's window stands and how large it is, and puts it back there when the form opens again: a
-// section of the form's name in the file, with Left, Top, Width and Height in twips. Also the form's on-top switch.
+// section of the form's name in the file, with Left, Top, Width and Height in twips, all four in one step. Also the
+// form's on-top switch.
 class FormExtender : public Component {
  public:
   FormExtender(Form& form, std::string name);

@@ -83,6 +83,31 @@ TEST_F(FormExtenderTest, EachMeasureIsNotedAndFractionsAreKept) {
   EXPECT_EQ(File(), Text("100", "1.5", "2.25", "3"));
 }
 
+// A power cut between two of them would bring the window back at a place where it never stood.
+TEST_F(FormExtenderTest, AllFourMeasuresComeOntoTheDiskInOneStep) {
+  class WatchedFiles : public SimFiles {
+   public:
+    bool Replace(const std::string& path, const std::string& content) override {
+      written.push_back(content);
+      return SimFiles::Replace(path, content);
+    }
+    std::vector<std::string> written;
+  } disk;
+  disk.CreateFolder("/station");
+  World watched{sim.time,    sim.time,    disk,        sim.media,    sim.flash,  sim.pictures,
+                sim.windows, sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  Station other{watched, "/station"};
+  auto& form = other.forms.Get<frmPlaced>();
+  form.win.RecordWindowPosTo = kFile;
+  sim.time.Advance(1s);
+  form.Left = 1;
+  form.Top = 2;
+  form.Width = 300;
+  form.Height = 400;
+  sim.time.Advance(1s);
+  EXPECT_EQ(disk.written, (std::vector<std::string>{Text("100", "200", "3000", "4000"), Text("1", "2", "300", "400")}));
+}
+
 TEST_F(FormExtenderTest, AWindowThatComesBackToWhereItStoodIsNotWrittenAgain) {
   Open();
   sim.time.Advance(1s);
