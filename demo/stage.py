@@ -76,17 +76,18 @@ SETTINGS = {
     },
 }
 
-# Left, top, width and height in pixels. An output window that the control window in the middle leaves free; at its left
-# edge the column of side ads, along its lower edge the crawler's band, 92 pixels high, and the news strip on that. What
-# stands above the picture shares the rest, each in the shape of its movie.
+# Left, top, width and height in pixels. At the left edge of the picture the column of side ads, along its lower edge the
+# crawler's band, 92 pixels high, and along its upper edge the news strip; what else stands above the picture shares the
+# rest, each in the shape of its movie. On a display of 1920x1080 the control window comes up in the middle, below the
+# right half of the picture, and what is always in front leaves it free.
 COLUMN = 136
 PLACES = {
     "frmPlayer": (0, 0, 896, 504),
-    "FrmLogoShow": (754, 12, 132, 88),
-    "frmClockShow": (COLUMN + 12, 12, 150, 48),
-    "frmStikerShow": (798, 272, 88, 88),
-    "frmFlashAdShow": (COLUMN + 12, 276, 280, 84),
-    "frmBreakingNews": (COLUMN, 368, 760, 44),
+    "FrmLogoShow": (754, 56, 132, 88),
+    "frmClockShow": (COLUMN + 12, 56, 150, 48),
+    "frmStikerShow": (798, 232, 88, 88),
+    "frmFlashAdShow": (COLUMN + 12, 318, 280, 84),
+    "frmBreakingNews": (COLUMN, 0, 760, 44),
 }
 
 HEADLINES = [
