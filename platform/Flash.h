@@ -25,7 +25,7 @@ struct FlashLooks {
 };
 
 // One place that shows movies, or pictures. It shows local files alone; a movie reaches no network and no file but its
-// own. What nobody sees goes on counting its frames.
+// own. What nobody sees goes on counting its frames, and is not heard.
 class FlashSurface {
  public:
   virtual ~FlashSurface() = default;

@@ -89,16 +89,27 @@ void QtSurface::Begin() {
     }
     TellSlot();
   }
+  TellSilence();
   if (!waits_ || leader_ != nullptr || loading_ != 0) return;
   waits_ = false;
   loading_ = serial_ = flash_.NewSerial();
   begun_ = path_;
   begunLooks_ = looks_;
-  for (QtSurface* follower : followers_) {
-    follower->serial_ = serial_;
-    begunLooks_.silent = begunLooks_.silent && follower->looks_.silent;
-  }
+  begunLooks_.silent = !IsHeard();
+  for (QtSurface* follower : followers_) follower->serial_ = serial_;
   TellPut();
+}
+
+bool QtSurface::IsHeard() const {
+  const auto isHeard = [](const QtSurface* one) { return !one->looks_.silent && !one->target_.isEmpty(); };
+  return isHeard(this) || std::ranges::any_of(followers_, isHeard);
+}
+
+void QtSurface::TellSilence() {
+  const bool silent = !IsHeard();
+  if (leader_ != nullptr || serial_ == 0 || silent == begunLooks_.silent) return;
+  begunLooks_.silent = silent;
+  flash_.Program().Send({wire::kSilence, slot_, silent});
 }
 
 void QtSurface::TellAll() {

@@ -59,6 +59,9 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   QSize WantedSize() const;
   void TellSlot();
   void TellPut();
+  // What nobody sees is not heard either: neither a column that was switched off, nor what a break stands over.
+  bool IsHeard() const;
+  void TellSilence();
   void LoadPicture();
   void ShowPicture(const SharedPicture& picture, QRect place);
   void ShowScaled(const QImage& picture);

@@ -10,11 +10,12 @@
 namespace wire {
 
 // Station to player.
-inline constexpr char kSlot[] = "slot";    // slot, width, height; with the memory for its pictures, or 0, 0 for unseen
-inline constexpr char kPut[] = "put";      // slot, serial, path, fill, seeThrough, silent
-inline constexpr char kSet[] = "set";      // slot, serial, name, value
-inline constexpr char kClear[] = "clear";  // slot
-inline constexpr char kEnd[] = "end";      // slot
+inline constexpr char kSlot[] = "slot";  // slot, width, height; with the memory for its pictures, or 0, 0 for unseen
+inline constexpr char kPut[] = "put";    // slot, serial, path, fill, seeThrough, silent
+inline constexpr char kSet[] = "set";    // slot, serial, name, value
+inline constexpr char kSilence[] = "silence";  // slot, silent: of what plays there from now on
+inline constexpr char kClear[] = "clear";      // slot
+inline constexpr char kEnd[] = "end";          // slot
 // Player to station.
 inline constexpr char kUp[] = "up";              // slot, serial: its first picture is there
 inline constexpr char kBad[] = "bad";            // slot, serial: it cannot be shown

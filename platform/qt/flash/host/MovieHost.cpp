@@ -104,6 +104,8 @@ void MovieHost::Hear(const QByteArray& message, Descriptor memory) {
                  0});
   } else if (about == wire::kSet) {
     Set(number, parts[2].toInteger(), parts[3].toString(), parts[4].toString());
+  } else if (about == wire::kSilence) {
+    Silence(number, parts[2].toBool());
   } else if (about == wire::kClear) {
     Forget(slots_[number]);
     PageOf(slots_[number]).Call("clear", {number});
@@ -175,6 +177,13 @@ void MovieHost::Set(int number, qint64 serial, const QString& name, const QStrin
   movie.variables.removeIf([&name](const auto& variable) { return variable.first == name; });
   movie.variables.append({name, value});
   if (movie.load > 0) PageOf(found->second).Call("set", {number, serial, name, value});
+}
+
+// Also of a movie that is coming up, and of one that a page that comes back begins anew.
+void MovieHost::Silence(int number, bool silent) {
+  Slot& slot = slots_[number];
+  if (slot.movie) slot.movie->silent = silent;
+  PageOf(slot).Call("silence", {number, silent});
 }
 
 void MovieHost::Forget(Slot& slot) {

@@ -45,6 +45,7 @@ class MovieHost : public QObject {
   void Put(int number, Movie movie);
   void Load(int number);
   void Set(int number, qint64 serial, const QString& name, const QString& value);
+  void Silence(int number, bool silent);
   void Forget(Slot& slot);
   void End(int number);
 

@@ -1,5 +1,5 @@
-// The movies of this page. The program calls place, put, set, clear and end; what it is told goes out as lines on the
-// console that begin with "@", each a list: ["up", slot, serial], ["bad", slot, serial, why], ["placed", slot],
+// The movies of this page. The program calls place, put, set, silence, clear and end; what it is told goes out as lines
+// on the console that begin with "@", each a list: ["up", slot, serial], ["bad", slot, serial, why], ["placed", slot],
 // ["frames", [slot, serial, frame, ...]], ["panic", slot].
 'use strict';
 
@@ -265,6 +265,11 @@ const movies = (() => {
       if (!movie) return;
       if (movie.ready) setNow(movie, name, value);
       else movie.waiting.push([name, value]);
+    },
+
+    silence(number, silent) {
+      const slot = slotOf(number);
+      for (const movie of [slot.shown, slot.coming]) if (movie) movie.player.volume = silent ? 0 : 1;
     },
 
     clear(number) {
