@@ -327,6 +327,24 @@ TEST_F(RuffleTest, AMovieThatBringsTheRendererDownTwiceStaysOutAndTheOthersPlay)
   EXPECT_TRUE(Until([&] { return bad.frames.size() > 3; })) << "until it is put again";
 }
 
+// A clip that holds itself takes the player's whole stack, in every tick anew.
+TEST_F(RuffleTest, AMovieThatTakesThePlayersWholeStackLeavesAllOthersPlayingAndIsCountedByTheClock) {
+  Seen first(world.world.flash, {60, 60});
+  first.surface->Put(File("first.swf", Shows(5000), {.frameCount = 5000}));
+  ASSERT_TRUE(Until([&] { return !first.frames.empty(); }));
+  Seen bad(world.world.flash, {60, 60});
+  const std::string itself = Sprite(1, Place(1, 1));
+  bad.surface->Put(File("bad.swf", itself + Shows(10) + Place(1, 1) + Shows(30), {.frameCount = 40}));
+  ASSERT_TRUE(Until([&] { return bad.frames.size() > 60; })) << "a rotation that waits for its end goes on";
+  Seen next(world.world.flash, {60, 60});
+  next.surface->Put(File("next.swf", Shows(5000), {.frameCount = 5000}));
+  EXPECT_TRUE(Until([&] { return next.frames.size() > 50; }));
+  for (std::size_t i = 0; i < first.frames.size(); ++i) ASSERT_EQ(first.frames[i], static_cast<int>(i) + 1);
+  bad.surface->Put(File("good.swf", Background(0, 255, 0) + Shows(9), {.frameCount = 9}));
+  bad.frames.clear();
+  EXPECT_TRUE(Until([&] { return bad.frames.size() > 9; })) << "another movie plays in its place";
+}
+
 TEST_F(RuffleTest, HundredsOfChangesArePlayedAndTheLastPictureNeverGoes) {
   const auto seen = Opaque();
   const std::string red = File("a.swf", Background(255, 0, 0) + Shows(3));
