@@ -2,8 +2,30 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <algorithm>
+#include <initializer_list>
 
 #include "platform/qt/desktop/Xlib.h"
+
+namespace {
+
+// The window manager is asked, as it looks after the window from its showing on.
+void Ask(Display* display, QWindow& window, const char* what, std::initializer_list<long> numbers) {
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = window.winId();
+  event.xclient.message_type = XInternAtom(display, what, 0);
+  event.xclient.format = 32;
+  std::ranges::copy(numbers, event.xclient.data.l);
+  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
+  XFlush(display);
+}
+
+long Atomised(Display* display, const char* name) { return static_cast<long>(XInternAtom(display, name, 0)); }
+
+constexpr long kAProgramAsks = 1;  // and not a person
+
+}  // namespace
 
 void SetWindowClass(QWindow& window, const std::string& name) {
   Display* display = XDisplay();
@@ -14,21 +36,23 @@ void SetWindowClass(QWindow& window, const std::string& name) {
   XFlush(display);
 }
 
-// The window manager is asked, as it looks after the window from its showing on.
+// One that comes up later finds the property.
+void StandOnEveryDesktop(QWindow& window) {
+  Display* display = XDisplay();
+  if (display == nullptr || window.handle() == nullptr) return;
+  const unsigned long all = 0xFFFFFFFF;
+  XChangeProperty(display, window.winId(), XInternAtom(display, "_NET_WM_DESKTOP", 0), XA_CARDINAL, 32, PropModeReplace,
+                  reinterpret_cast<const unsigned char*>(&all), 1);
+  Ask(display, window, "_NET_WM_DESKTOP", {static_cast<long>(all), kAProgramAsks});
+}
+
 void HideFromTaskbar(QWindow& window) {
   Display* display = XDisplay();
   if (display == nullptr || window.handle() == nullptr) return;
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = window.winId();
-  event.xclient.message_type = XInternAtom(display, "_NET_WM_STATE", 0);
-  event.xclient.format = 32;
-  event.xclient.data.l[0] = 1;  // add
-  event.xclient.data.l[1] = static_cast<long>(XInternAtom(display, "_NET_WM_STATE_SKIP_TASKBAR", 0));
-  event.xclient.data.l[2] = static_cast<long>(XInternAtom(display, "_NET_WM_STATE_SKIP_PAGER", 0));
-  event.xclient.data.l[3] = 1;  // a program asks, not a person
-  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
-  XFlush(display);
+  constexpr long kAdd = 1;
+  Ask(display, window, "_NET_WM_STATE",
+      {kAdd, Atomised(display, "_NET_WM_STATE_SKIP_TASKBAR"), Atomised(display, "_NET_WM_STATE_SKIP_PAGER"),
+       kAProgramAsks});
 }
 
 void StandBefore(QWindow& window, QWindow* other) {

@@ -8,6 +8,8 @@ class QWindow;
 // apart. To be called whenever the window has become a new native one, before it is shown; does nothing without X.
 void SetWindowClass(QWindow& window, const std::string& name);
 
+// Has a window that has just been shown stand on every desktop, whichever one is switched to. Does nothing without X.
+void StandOnEveryDesktop(QWindow& window);
 // Keeps a window that has just been shown out of the desktop's lists of windows. Does nothing without X.
 void HideFromTaskbar(QWindow& window);
 // Has the window manager keep a window in front of another one, whatever that does; null: on its own again. Does

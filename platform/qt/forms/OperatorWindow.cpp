@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/qt/Pressed.h"
+#include "platform/qt/desktop/MapWatch.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/forms/FormLoader.h"
 #include "platform/qt/forms/PointerDrag.h"
@@ -150,7 +151,10 @@ bool OperatorWindow::Seen(QEvent& event) {
       }
       return false;
     case QEvent::WinIdChange:
-      if (Widget().windowHandle() != nullptr) SetWindowClass(*Widget().windowHandle(), form_.Name());
+      watch_.reset();
+      if (Widget().windowHandle() == nullptr) return false;
+      SetWindowClass(*Widget().windowHandle(), form_.Name());
+      watch_ = std::make_unique<MapWatch>(*Widget().windowHandle(), MapWatch::Until::kSeen);
       return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove: {

@@ -8,6 +8,7 @@
 #include "platform/qt/forms/Joint.h"
 
 class Form;
+class MapWatch;
 
 // A form before the operator: the widgets of its layout file in a window of the desktop. The window follows the form's
 // caption, place, size and visibility, and tells the form where the operator moves it. A form without a layout file is
@@ -42,6 +43,7 @@ class OperatorWindow : public FormWindow {
   void NotePlace();
 
   Form& form_;
+  std::unique_ptr<MapWatch> watch_;  // of the native window
   Joint joint_;
   Binder binder_;
   bool noting_ = false;

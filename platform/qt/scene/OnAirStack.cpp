@@ -9,6 +9,11 @@ OnAirStack::OnAirStack() {
   arrangeIsDue_.setSingleShot(true);
   connect(&arrangeIsDue_, &QTimer::timeout, this, &OnAirStack::Arrange);
   connect(&compositor_, &Compositor::Changed, this, &OnAirStack::Arrange);
+  connect(&bareDesktop_, &BareDesktop::Bared, this, &OnAirStack::StayOnTheScreen);
+}
+
+void OnAirStack::StayOnTheScreen() {
+  if (std::ranges::any_of(sheets_, &Sheet::IsShown) && bareDesktop_.IsBare()) bareDesktop_.Undo();
 }
 
 void OnAirStack::Add(Sheet& sheet) {
@@ -42,6 +47,7 @@ bool OnAirStack::IsLargest(const Sheet& sheet) const {
 
 void OnAirStack::Arrange() {
   arrangeIsDue_.stop();
+  StayOnTheScreen();
   const std::vector<Sheet*> shown = Shown();
   const auto isGlass = [this](const Sheet* sheet) { return sheet->IsSeeThrough() && !compositor_.Runs(); };
   std::map<const Sheet*, QRegion> opaqueBehind;

@@ -4,12 +4,14 @@
 #include <QTimer>
 #include <vector>
 
+#include "platform/qt/desktop/BareDesktop.h"
 #include "platform/qt/desktop/Compositor.h"
 
 class Sheet;
 
 // The on-air windows as they stand in front of each other. While no compositing manager draws them, it has the opaque
 // ones paint what of the see-through ones stands in front of them, and cuts the see-through ones to what stays solid.
+// While any of them is shown the desktop is not laid bare.
 class OnAirStack : public QObject {
  public:
   OnAirStack();
@@ -26,8 +28,10 @@ class OnAirStack : public QObject {
 
  private:
   std::vector<Sheet*> Shown() const;
+  void StayOnTheScreen();
 
   Compositor compositor_;
+  BareDesktop bareDesktop_;
   std::vector<Sheet*> sheets_;  // front to back, whether on top or not
   QTimer arrangeIsDue_;
 };

@@ -13,6 +13,7 @@
 #include "platform/qt/OfKind.h"
 #include "platform/qt/Pressed.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/desktop/MapWatch.h"
 #include "platform/qt/desktop/WindowClass.h"
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/SceneItems.h"
@@ -122,6 +123,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene)
   following_.push_back(form.ShowAsked.Subscribe([this] { ComeForward(); }));
   following_.push_back(form.BackColor.Changed.Subscribe(style));
   following_.push_back(form.ExtendedStyle.Changed.Subscribe(style));
+  watch_ = std::make_unique<MapWatch>(*window_, HasFrame() ? MapWatch::Until::kSeen : MapWatch::Until::kHidden);
   if (hasAlpha_) window_->create();  // what its shape and its back are told before would be lost
   title();
   style();
@@ -131,6 +133,7 @@ OnAirWindow::OnAirWindow(Form& form, Scene& scene)
 
 // The form may be unloaded by what the window is handling this very moment.
 OnAirWindow::~OnAirWindow() {
+  watch_.reset();
   sheet_.reset();
   for (ControlItem* item : items_) item->Detach();
   window_->removeEventFilter(this);
@@ -162,6 +165,7 @@ void OnAirWindow::ApplyVisible() {
   window_->setVisible(form_.Visible);
   SetWindowClass(*window_, form_.Name());  // showing may have made the native window anew
   if (form_.Visible && hasAlpha_) HideFromTaskbar(*window_);
+  if (form_.Visible && !HasFrame()) StandOnEveryDesktop(*window_);
   FollowScreen();
 }
 

@@ -13,6 +13,7 @@
 #include "platform/toolkit/Event.h"
 
 class ControlItem;
+class MapWatch;
 class QQuickItem;
 class QQuickWindow;
 class Sheet;
@@ -68,6 +69,7 @@ class OnAirWindow : public QObject, public FormWindow {
   std::vector<ControlItem*> panes_;  // those directly on the form, front to back
   std::unique_ptr<Sheet> sheet_;     // its place among the on-air windows; none with HasFrame
   const bool hasAlpha_;              // of the native window
+  std::unique_ptr<MapWatch> watch_;  // no key of the desktop takes the channel off the air, nor a lost request
   std::vector<Subscription> following_;
   QTimer placeIsDue_;  // applies the form's place once for all changes of a handler
   QTimer coverIsDue_;  // finds out, likewise once, which panes are hidden by others

@@ -66,7 +66,14 @@ class Desk:
         # For libraries that this process itself uses.
         os.environ.update(self.environment)
         self.screen = Screen(f":{number}")
-        self.start("openbox")
+        self.start_window_manager()
+
+    def start_window_manager(self, *options):
+        self._manager = self.start("openbox", *options)
+
+    def end_window_manager(self):
+        self._manager.terminate()
+        self._manager.wait(20)
 
     def two_monitors(self):
         """Makes two monitors of the one screen, each half as wide: LEFT is the first, RIGHT the second."""

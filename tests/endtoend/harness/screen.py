@@ -10,7 +10,8 @@ VIEWABLE = 2
 ALL_PLANES = 0xFFFFFFFF
 Z_PIXMAP = 2
 CLIENT_MESSAGE = 33
-REDIRECT_AND_NOTIFY = (1 << 20) | (1 << 19)
+SUBSTRUCTURE_REDIRECT = 1 << 20
+REDIRECT_AND_NOTIFY = SUBSTRUCTURE_REDIRECT | (1 << 19)
 
 
 @dataclasses.dataclass(frozen=True)
@@ -78,11 +79,39 @@ class Screen:
 
     def ask_to_close(self, window):
         """What a click on the close box of the window's frame does."""
-        event = xlib.ClientMessage(type=CLIENT_MESSAGE, window=window.number, format=32)
-        event.message_type = xlib.XInternAtom(self._display, b"_NET_CLOSE_WINDOW", 0)
-        event.data[1] = 2
-        xlib.XSendEvent(self._display, self._root, 0, REDIRECT_AND_NOTIFY, ctypes.byref(event))
+        self._ask_the_manager(b"_NET_CLOSE_WINDOW", window.number, 0, 2)
+
+    def bare_the_desktop(self):
+        """What the key of the window manager does that takes all windows off the screen."""
+        self._ask_the_manager(b"_NET_SHOWING_DESKTOP", self._root, 1)
+
+    def is_bare(self):
+        return self._root_number(b"_NET_SHOWING_DESKTOP") == 1
+
+    def switch_to_desktop(self, number):
+        """Another of the window manager's desktops, from 0, is shown."""
+        self._ask_the_manager(b"_NET_CURRENT_DESKTOP", self._root, number)
+
+    def desktop(self):
+        return self._root_number(b"_NET_CURRENT_DESKTOP")
+
+    def minimise(self, window):
+        self._do("windowminimize", str(window.number))
+
+    def has_window_manager(self):
+        """One that has gone may have left its mark, but not the window that this names."""
+        mark = b"_NET_SUPPORTING_WM_CHECK"
+        number = self._root_number(mark)
+        return number is not None and self._property(number, mark) == [number]
+
+    def lose_requests(self, losing):
+        """Takes the place of a window manager that is asked to bring windows on the screen and brings none."""
+        xlib.XSelectInput(self._display, self._root, SUBSTRUCTURE_REDIRECT if losing else 0)
         xlib.XFlush(self._display)
+
+    def has_made(self, form):
+        """There is a window of that form, on the screen or not."""
+        return any(self._class(child) == form for child in self._children(self._root))
 
     def dock(self, left, width, height, desktop_height):
         """Puts up a panel of the desktop along the bottom, `height` pixels deep, that keeps its place free."""
@@ -126,6 +155,32 @@ class Screen:
     def picture(self, path):
         subprocess.run(["import", "-display", self.name, "-window", "root", str(path)], check=False, timeout=20)
 
+    def _ask_the_manager(self, what, window, *numbers):
+        event = xlib.ClientMessage(type=CLIENT_MESSAGE, window=window, format=32)
+        event.message_type = xlib.XInternAtom(self._display, what, 0)
+        for index, number in enumerate(numbers):
+            event.data[index] = number
+        xlib.XSendEvent(self._display, self._root, 0, REDIRECT_AND_NOTIFY, ctypes.byref(event))
+        xlib.XFlush(self._display)
+
+    def _root_number(self, name):
+        """The first number that a property of the root window holds; None where there is none."""
+        return next(iter(self._property(self._root, name) or []), None)
+
+    def _property(self, window, name):
+        """What a property of a window holds, a text or a list of numbers; None where there is none."""
+        atom = xlib.XInternAtom(self._display, name, 0)
+        kind, unit, count, rest, data = xlib.Atom(), ctypes.c_int(), ctypes.c_ulong(), ctypes.c_ulong(), xlib.Pointer()
+        failed = xlib.XGetWindowProperty(self._display, window, atom, 0, 1024, 0, 0, kind, unit, count, rest, data)
+        if failed or not data:
+            return None
+        if unit.value == 32:
+            held = ctypes.cast(data, xlib.ulong_p)[: count.value]
+        else:
+            held = ctypes.string_at(data, count.value).decode(errors="replace")
+        xlib.XFree(data)
+        return held
+
     def _set(self, window, name, kind, numbers):
         values = (ctypes.c_long * len(numbers))(*numbers)
         atom = xlib.XInternAtom(self._display, name, 0)
@@ -166,11 +221,4 @@ class Screen:
         return name
 
     def _title(self, window):
-        atom = xlib.XInternAtom(self._display, b"_NET_WM_NAME", 0)
-        kind, unit, count, rest, data = xlib.Atom(), ctypes.c_int(), ctypes.c_ulong(), ctypes.c_ulong(), xlib.Pointer()
-        failed = xlib.XGetWindowProperty(self._display, window, atom, 0, 1024, 0, 0, kind, unit, count, rest, data)
-        if failed or not data:
-            return ""
-        title = ctypes.string_at(data, count.value).decode(errors="replace")
-        xlib.XFree(data)
-        return title
+        return self._property(window, b"_NET_WM_NAME") or ""

@@ -75,6 +75,7 @@ XGetWindowProperty = declare("XGetWindowProperty", ctypes.c_int, Pointer, Window
 XGetImage = declare("XGetImage", ctypes.POINTER(Image), Pointer, Window, ctypes.c_int, ctypes.c_int, ctypes.c_uint,
                     ctypes.c_uint, ctypes.c_ulong, ctypes.c_int)
 XDestroyImage = declare("XDestroyImage", ctypes.c_int, ctypes.POINTER(Image))
+XSelectInput = declare("XSelectInput", ctypes.c_int, Pointer, Window, ctypes.c_long)
 XSendEvent = declare("XSendEvent", ctypes.c_int, Pointer, Window, ctypes.c_int, ctypes.c_long, Pointer)
 XCreateSimpleWindow = declare("XCreateSimpleWindow", Window, Pointer, Window, ctypes.c_int, ctypes.c_int, ctypes.c_uint,
                               ctypes.c_uint, ctypes.c_uint, ctypes.c_ulong, ctypes.c_ulong)
