@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kTall = 400;          // pixels; what is taller plays in the second page
 constexpr QSize kUnseen{32, 32};    // as large plays what nobody sees
-constexpr int kLoadsOfAPage = 300;  // each leaves a quarter of a megabyte that only a new page gives back
+constexpr int kLoadsOfAPage = 100;  // each leaves some memory that only a new page gives back
 constexpr qint64 kMostBytes = 128 << 20;
 constexpr qint64 kSuspicious = 3000;    // milliseconds after its first picture in which a movie is to blame for a death
 constexpr int kUntilTheSuspect = 1500;  // it comes back this much later than the others
