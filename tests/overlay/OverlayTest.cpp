@@ -109,6 +109,15 @@ TYPED_TEST(EachOverlayTest, WithTheWindowsStoreLostTheLeftEdgeIsKeptAndTheTopIsT
   EXPECT_EQ(this->PlaceOf(again), (Place{3300, 0, 3000, 3000}));
 }
 
+// Meant so: these keys are the sliders' own.
+TYPED_TEST(EachOverlayTest, ItsSizeComesFromTheWindowsStoreAloneWhateverTheKeysWidthAndHeightSay) {
+  this->Set(this->kind.section, "Width", "6000");
+  this->Set(this->kind.section, "Height", "4500");
+  auto& form = this->Overlay();
+  this->Advance(1s);
+  EXPECT_EQ(this->PlaceOf(form), (Place{0, 0, 3000, 3000}));
+}
+
 TYPED_TEST(EachOverlayTest, AnyMouseButtonDragsTheWindow) {
   auto& form = this->Overlay();
   this->Advance(1s);
@@ -259,6 +268,20 @@ TEST_F(OverlayTest, TheFlashAdOpensEmptyWithoutAKeyColourUntilItIsBroughtAMovie)
   EXPECT_EQ(Surface("frmFlashAdShow").Shown(), "/station/Media/Logo/first.swf");
 }
 
+TEST_F(OverlayTest, EachMovieThatIsLoadedStandsInTheCornerFillsTheFormAndMakesItSeeThroughAgain) {
+  FlashAd().Show();
+  LoadFlashInto(FlashAd().Flash, Movie("first.swf"), FlashAd());
+  SetFormTransparent(FlashAd(), false);
+  FlashAd().Flash.Left = FlashAd().Flash.Top = 150;
+  FlashAd().Flash.Width = FlashAd().Flash.Height = 300;
+  LoadFlashInto(FlashAd().Flash, Movie("second.swf"), FlashAd());
+  EXPECT_EQ(FlashAd().Flash.Left, 0);
+  EXPECT_EQ(FlashAd().Flash.Top, 0);
+  EXPECT_EQ(FlashAd().Flash.Width, 3000);
+  EXPECT_EQ(FlashAd().Flash.Height, 3000);
+  EXPECT_EQ(FlashAd().KeyInForce(), kKey);
+}
+
 TEST_F(OverlayTest, SwitchedOffAndOnAgainTheKeyColourIsBackAndAllOtherBitsOfTheStyleAreGone) {
   Logo().ExtendedStyle = kLayered | 0x20;
   SetFormTransparent(Logo(), false);
@@ -313,6 +336,15 @@ TEST_F(OverlayMonitorsTest, OnTheMonitorWhereItIsAlreadyNothingChangesNotEvenByR
   StandAt(37.3, 52.1);
   Logo().MoveTo(1);
   EXPECT_EQ(PlaceOf(Logo()), (Place{37.3, 52.1, 3000, 3000}));
+}
+
+// Meant so.
+TEST_F(OverlayMonitorsTest, TheMonitorsAreThoseOfTheFirstCallWhateverIsPluggedInLater) {
+  StandAt(ToTwips(30), ToTwips(50));
+  Logo().MoveTo(1);
+  sim.monitors.monitors[1].area = {1920, 300, 3200, 1020};
+  Logo().MoveTo(2);
+  EXPECT_EQ(Logo().Top, ToTwips(150));
 }
 
 TEST_F(OverlayMonitorsTest, AMonitorThatIsNotThereMovesNothing) {
