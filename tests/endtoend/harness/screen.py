@@ -65,9 +65,10 @@ class Screen:
         if not image:
             return [bytes(4 * width)] * height
         head = image.contents
-        raw = ctypes.string_at(head.data, head.bytes_per_line * head.height)
-        xlib.XDestroyImage(image)
-        return [raw[row * head.bytes_per_line :][: 4 * width] for row in range(height)]
+        line = head.bytes_per_line
+        raw = ctypes.string_at(head.data, line * head.height)
+        xlib.XDestroyImage(image)  # and with it what `head` reads from
+        return [raw[row * line :][: 4 * width] for row in range(height)]
 
     def pixels(self, x, y, width, height):
         """Rows of (red, green, blue); black where the rectangle cannot be read."""
