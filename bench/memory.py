@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """memory.py [MINUTES]: whether the memory (PSS) of a station with nine movies and the crawl over a 1080p clip stays where it
 is behind the first third of MINUTES (30 unless told otherwise), the movies of column and flash ad following each other
-all the time. It may run beside other work, which slows the station down and changes nothing of its memory."""
+all the time. It may run beside other work, but beside no other browser: what they share counts to each in part."""
 
 import sys
 

@@ -5,6 +5,8 @@ import pathlib
 import subprocess
 import time
 
+from harness.processes import tree_of
+
 TICKS_OF_A_SECOND = os.sysconf("SC_CLK_TCK")
 
 
@@ -16,39 +18,26 @@ class Meter:
         self._began, self._before = time.monotonic(), self._used()
 
     def _used(self):
-        known = processes()
-        return sum(known[pid][1] for root in self._roots for pid in tree(root, known))
+        return sum(used_by(pid) for root in self._roots for pid in tree_of(root))
 
     def cost(self):
         """CPU seconds per second, since the meter was made."""
         return (self._used() - self._before) / (time.monotonic() - self._began)
 
 
-def processes():
-    """Of each process its parent's number and the CPU seconds that it has used."""
-    known = {}
-    for entry in pathlib.Path("/proc").glob("[0-9]*"):
-        try:
-            fields = (entry / "stat").read_text().rsplit(")", 1)[1].split()
-        except OSError:
-            continue  # it has ended meanwhile
-        known[int(entry.name)] = int(fields[1]), (int(fields[11]) + int(fields[12])) / TICKS_OF_A_SECOND
-    return known
-
-
-def tree(root, known):
-    """A process and all its descendants."""
-    waiting = [root]
-    while waiting:
-        pid = waiting.pop()
-        yield pid
-        waiting += [child for child, (parent, _) in known.items() if parent == pid]
+def used_by(pid):
+    """CPU seconds; none where the process has ended meanwhile."""
+    try:
+        fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()
+    except OSError:
+        return 0
+    return (int(fields[11]) + int(fields[12])) / TICKS_OF_A_SECOND
 
 
 def pss_of_tree(root):
     """Megabytes of the process and all below it, what is shared counted once."""
     total = 0
-    for pid in tree(root, processes()):
+    for pid in tree_of(root):
         try:
             lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
         except OSError:

@@ -2,7 +2,6 @@
 """Movies on the air that are damaged, endless or too large, and what plays them killed."""
 
 import os
-import pathlib
 import signal
 import struct
 import sys
@@ -10,6 +9,7 @@ import zlib
 
 from harness import letters, media
 from harness.patience import until
+from harness.processes import command_of, is_there, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import Station
@@ -68,38 +68,6 @@ def put(station, movie):
 def middle(station):
     window = station.screen.window(form="frmBreakingNews")
     return window and station.screen.pixel(*window.centre)
-
-
-def tree_of(pid):
-    """The process and all below it."""
-    parents = {}
-    for entry in pathlib.Path("/proc").iterdir():
-        if entry.name.isdigit():
-            try:
-                parents[int(entry.name)] = int((entry / "stat").read_text().rpartition(")")[2].split()[1])
-            except OSError:
-                pass
-    tree, waiting = [], [pid]
-    while waiting:
-        one = waiting.pop()
-        tree.append(one)
-        waiting += [child for child, parent in parents.items() if parent == one]
-    return tree
-
-
-def command_of(pid):
-    """How the process was called, as one text; some join their words themselves."""
-    try:
-        return pathlib.Path(f"/proc/{pid}/cmdline").read_bytes().decode(errors="replace").replace("\0", " ")
-    except OSError:
-        return ""
-
-
-def is_there(pid):
-    try:
-        return pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()[0] != "Z"
-    except OSError:
-        return False
 
 
 def assert_programme_runs(station, what):

@@ -7,6 +7,7 @@ import time
 
 from harness import ini, media
 from harness.patience import until
+from harness.processes import tree_of
 from harness.scenarios import main, scenario
 from harness.station import PROGRAM
 
@@ -30,13 +31,7 @@ MOVING = {
 
 def children(pid):
     """All processes that the station has started, and those that they have."""
-    found = []
-    waiting = [pid]
-    while waiting:
-        told = subprocess.run(["pgrep", "-P", str(waiting.pop())], capture_output=True, text=True).stdout.split()
-        found += told
-        waiting += told
-    return set(found)
+    return set(tree_of(pid)) - {pid}
 
 
 class Watch:

@@ -6,10 +6,16 @@
 
 #include "platform/qt/desktop/XWindows.h"
 
+namespace {
+
+constexpr char kShowing[] = "_NET_SHOWING_DESKTOP";
+
+}  // namespace
+
 BareDesktop::BareDesktop() {
   Display* display = XDisplay();
   if (display == nullptr) return;
-  state_ = XInternAtom(display, "_NET_SHOWING_DESKTOP", 0);
+  state_ = XInternAtom(display, kShowing, 0);
   // What else is heard of the root window stays so.
   XWindowAttributes root{};
   XGetWindowAttributes(display, DefaultRootWindow(display), &root);
@@ -20,7 +26,7 @@ BareDesktop::BareDesktop() {
 
 void BareDesktop::Look() {
   Display* display = XDisplay();
-  const auto state = ReadList(display, DefaultRootWindow(display), "_NET_SHOWING_DESKTOP", XA_CARDINAL);
+  const auto state = ReadList(display, DefaultRootWindow(display), kShowing, XA_CARDINAL);
   isBare_ = !state.empty() && state.front() == 1;
   if (isBare_) emit Bared();
 }
@@ -28,13 +34,7 @@ void BareDesktop::Look() {
 void BareDesktop::Undo() const {
   Display* display = XDisplay();
   if (display == nullptr) return;
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = DefaultRootWindow(display);
-  event.xclient.message_type = state_;
-  event.xclient.format = 32;
-  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
-  XFlush(display);
+  AskManager(display, DefaultRootWindow(display), kShowing, {0});
 }
 
 bool BareDesktop::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {

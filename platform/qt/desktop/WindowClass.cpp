@@ -2,24 +2,10 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <algorithm>
-#include <initializer_list>
 
-#include "platform/qt/desktop/Xlib.h"
+#include "platform/qt/desktop/XWindows.h"
 
 namespace {
-
-// The window manager is asked, as it looks after the window from its showing on.
-void Ask(Display* display, QWindow& window, const char* what, std::initializer_list<long> numbers) {
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = window.winId();
-  event.xclient.message_type = XInternAtom(display, what, 0);
-  event.xclient.format = 32;
-  std::ranges::copy(numbers, event.xclient.data.l);
-  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
-  XFlush(display);
-}
 
 long Atomised(Display* display, const char* name) { return static_cast<long>(XInternAtom(display, name, 0)); }
 
@@ -43,16 +29,16 @@ void StandOnEveryDesktop(QWindow& window) {
   const unsigned long all = 0xFFFFFFFF;
   XChangeProperty(display, window.winId(), XInternAtom(display, "_NET_WM_DESKTOP", 0), XA_CARDINAL, 32, PropModeReplace,
                   reinterpret_cast<const unsigned char*>(&all), 1);
-  Ask(display, window, "_NET_WM_DESKTOP", {static_cast<long>(all), kAProgramAsks});
+  AskManager(display, window.winId(), "_NET_WM_DESKTOP", {static_cast<long>(all), kAProgramAsks});
 }
 
 void HideFromTaskbar(QWindow& window) {
   Display* display = XDisplay();
   if (display == nullptr || window.handle() == nullptr) return;
   constexpr long kAdd = 1;
-  Ask(display, window, "_NET_WM_STATE",
-      {kAdd, Atomised(display, "_NET_WM_STATE_SKIP_TASKBAR"), Atomised(display, "_NET_WM_STATE_SKIP_PAGER"),
-       kAProgramAsks});
+  AskManager(display, window.winId(), "_NET_WM_STATE",
+             {kAdd, Atomised(display, "_NET_WM_STATE_SKIP_TASKBAR"), Atomised(display, "_NET_WM_STATE_SKIP_PAGER"),
+              kAProgramAsks});
 }
 
 void StandBefore(QWindow& window, QWindow* other) {

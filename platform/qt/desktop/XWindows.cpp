@@ -1,5 +1,7 @@
 #include "platform/qt/desktop/XWindows.h"
 
+#include <algorithm>
+
 namespace {
 
 XWindows Children(Display* display, Window window) {
@@ -40,4 +42,15 @@ XWindows TopWindows(Display* display) {
 bool IsMapped(Display* display, Window window) {
   XWindowAttributes seen{};
   return XGetWindowAttributes(display, window, &seen) != 0 && seen.map_state != IsUnmapped;
+}
+
+void AskManager(Display* display, Window window, const char* what, std::initializer_list<long> numbers) {
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = window;
+  event.xclient.message_type = XInternAtom(display, what, 0);
+  event.xclient.format = 32;
+  std::ranges::copy(numbers, event.xclient.data.l);
+  XSendEvent(display, DefaultRootWindow(display), 0, SubstructureRedirectMask | SubstructureNotifyMask, &event);
+  XFlush(display);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -17,3 +18,7 @@ std::vector<unsigned long> ReadList(Display* display, Window window, const char*
 XWindows TopWindows(Display* display);
 
 bool IsMapped(Display* display, Window window);
+
+// Asks the window manager, which looks after a window from its showing on, for something about it, or about the whole
+// desktop where it is the root: a message of that name with up to five numbers.
+void AskManager(Display* display, Window window, const char* what, std::initializer_list<long> numbers);
