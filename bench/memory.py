@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""memory.py [MINUTES]: whether the memory (PSS) of a station with nine movies and the crawl over a 1080p clip stays where it
-is behind the first third of MINUTES (30 unless told otherwise), the movies of column and flash ad following each other
-all the time. It may run beside other work, but beside no other browser: what they share counts to each in part."""
+"""memory.py [MINUTES]: whether the memory of a station with nine movies and the crawl over a 1080p clip stays where it is
+behind the first third of MINUTES (30 unless told otherwise), the movies of column and flash ad following each other all
+the time: as a whole (PSS), which moves with every other browser on the machine, and without the pages of files, which is
+what could grow. It may run beside other work."""
 
 import sys
 

@@ -15,7 +15,7 @@ from crawl import TICKS, counts
 from harness import ini
 from harness.desk import Desk
 from harness.station import MOVIES, Station
-from meter import Meter, pss_of_tree, x_server
+from meter import Meter, own_of_tree, pss_of_tree, x_server
 
 import movies  # the station's own, which the demo makes
 
@@ -125,12 +125,13 @@ def measure(name, make, seconds, minutes=0):
 
 
 def watch_memory(run, minutes):
-    """Prints the memory now and then, and how it has grown behind the first third, when it should be steady."""
+    """Prints the memory now and then, and how that which does not depend on other programs has grown behind the first
+    third, when it should be steady."""
     seen = []
     for look in range(1, LOOKS + 1 if minutes else 1):
         time.sleep(minutes * 60 / LOOKS)
-        seen.append(run.memory())
-        print(f"  after {minutes * look / LOOKS:.1f} minutes {seen[-1]:.0f} MB", flush=True)
+        seen.append(own_of_tree(run.process.pid))
+        print(f"  after {minutes * look / LOOKS:.1f} minutes {run.memory():.0f} MB, {seen[-1]:.0f} of it of no file", flush=True)
     steady = seen[LOOKS // 3 :]
     if steady:
         half = len(steady) // 2
