@@ -359,6 +359,28 @@ TEST_F(RuffleTest, HundredsOfChangesArePlayedAndTheLastPictureNeverGoes) {
   EXPECT_EQ(seen->blanks, 0);
 }
 
+// Each plays in the page that grows least with it, and goes over to the other one with its new size.
+TEST_F(RuffleTest, WideAndHighMoviesPlayBesideEachOtherAndChangeTheirShapes) {
+  const std::string red = File("a.swf", Background(255, 0, 0) + Shows(9));
+  const std::string blue = File("b.swf", Background(0, 0, 255) + Shows(9));
+  const auto strip = Opaque({1900, 60});
+  const auto column = Opaque({60, 900});
+  const auto sticker = Opaque({200, 100});
+  strip->surface->Put(red);
+  column->surface->Put(blue);
+  sticker->surface->Put(red);
+  for (const QSize size : {QSize(60, 900), QSize(1900, 60)}) {
+    EXPECT_TRUE(strip->Shows(QColor(255, 0, 0)));
+    EXPECT_TRUE(column->Shows(QColor(0, 0, 255)));
+    EXPECT_TRUE(sticker->Shows(QColor(255, 0, 0)));
+    strip->source.SetTarget(size);
+    column->source.SetTarget(size.transposed());
+    EXPECT_TRUE(Until([&] { return strip->picture.size() == size && column->picture.size() == size.transposed(); }));
+  }
+  EXPECT_TRUE(strip->Shows(QColor(255, 0, 0)));
+  EXPECT_TRUE(column->Shows(QColor(0, 0, 255)));
+}
+
 TEST_F(RuffleTest, WhatNobodySeesGoesOnCounting) {
   Seen unseen(world.world.flash, {});
   unseen.surface->Put(File("unseen.swf", Shows(10), {.frameCount = 10}));

@@ -16,9 +16,10 @@
 
 namespace {
 
-constexpr int kTall = 400;          // pixels; what is taller plays in the second page
-constexpr QSize kUnseen{32, 32};    // as large plays what nobody sees
-constexpr int kLoadsOfAPage = 100;  // each leaves some memory that only a new page gives back
+constexpr QSize kUnseen{32, 32};         // as large plays what nobody sees
+constexpr int kLoadsOfAPage = 100;       // each leaves some memory that only a new page gives back
+constexpr qint64 kPageItself = 200'000;  // pixels; what a page costs beside its area
+constexpr int kWorthMoving = 2;          // how many times smaller the growth elsewhere has to be
 constexpr qint64 kMostBytes = 128 << 20;
 constexpr qint64 kSuspicious = 3000;    // milliseconds after its first picture in which a movie is to blame for a death
 constexpr int kUntilTheSuspect = 1500;  // it comes back this much later than the others
@@ -114,13 +115,25 @@ void MovieHost::Hear(const QByteArray& message, Descriptor memory) {
   }
 }
 
+// A page costs what its area costs, and a strip as wide as the screen beside a column as high as it would make a page
+// of the screen's size.
+int MovieHost::PageFor(int number, const Slot& slot) const {
+  const auto growth = [&](int page) {
+    const auto& there = pages_[static_cast<std::size_t>(page)];
+    if (there) return there->GrowthWith(number, slot.size);
+    return kPageItself + qint64{slot.size.width()} * slot.size.height();
+  };
+  const int other = 1 - slot.page;
+  return growth(other) * (slot.movie ? kWorthMoving : 1) < growth(slot.page) ? other : slot.page;
+}
+
 // A movie that changes its page begins there anew.
 void MovieHost::Resize(int number, QSize size, Descriptor memory) {
   Slot& slot = slots_[number];
   slot.frames = size.isEmpty() ? nullptr : SharedFrames::Open(std::move(memory), size);
   slot.size = slot.frames ? size : kUnseen;
-  const int page = slot.size.height() > kTall ? 1 : 0;
-  const bool moves = page != slot.page && slot.movie;
+  const int page = slot.frames ? PageFor(number, slot) : slot.page;
+  const bool moves = page != slot.page && slot.movie && (slot.movie->load > 0 || comingBack_);
   if (page != slot.page && pages_[static_cast<std::size_t>(slot.page)]) PageOf(slot).Remove(number);
   slot.page = page;
   PageOf(slot).Place(number, slot.size, slot.frames);

@@ -12,9 +12,8 @@
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/Page.h"
 
-// Plays the station's movies in two unseen pages of one renderer process: what is tall in one, all else in the other,
-// so that both stay small. Brings movies back when the renderer or the player fails, and keeps those out that make it
-// fail.
+// Plays the station's movies in two unseen pages of one renderer process, each where its page grows least, so that both
+// stay small. Brings movies back when the renderer or the player fails, and keeps those out that make it fail.
 class MovieHost : public QObject {
  public:
   explicit MovieHost(Descriptor station);
@@ -49,6 +48,7 @@ class MovieHost : public QObject {
   void Forget(Slot& slot);
   void End(int number);
 
+  int PageFor(int number, const Slot& slot) const;
   Page& PageOf(const Slot& slot);
   Page& PageAt(int number);
   void Told(int page, const QJsonArray& line);

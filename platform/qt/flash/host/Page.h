@@ -34,6 +34,8 @@ class Page : public QObject {
   // pictures when the page has laid it out.
   void Place(int slot, QSize pixels, std::shared_ptr<SharedFrames> frames);
   void Remove(int slot);
+  // How many pixels more there would be to paint with the slot of that size.
+  qint64 GrowthWith(int slot, QSize pixels) const { return shelves_.GrowthWith(slot, pixels); }
 
   // Calls a function of the page, see movies.js: now, or when the page is there.
   void Call(const QString& function, const QJsonArray& arguments);

@@ -8,6 +8,15 @@ QRect Shelves::Put(int number, QSize size) {
   return places_[number] = FreePlace(size);
 }
 
+qint64 Shelves::GrowthWith(int number, QSize size) const {
+  const auto area = [](QSize extent) { return extent.isEmpty() ? 0 : qint64{extent.width()} * extent.height(); };
+  Shelves others = *this;
+  others.Remove(number);
+  const qint64 before = area(others.Extent());
+  others.Put(number, size);
+  return area(others.Extent()) - before;
+}
+
 QSize Shelves::Extent() const {
   QRect all;
   for (const auto& [number, place] : places_) all |= place;

@@ -11,6 +11,8 @@ class Shelves {
   // The place of a rectangle of that size; one of the same number gives up its former place.
   QRect Put(int number, QSize size);
   void Remove(int number) { places_.erase(number); }
+  // How many pixels larger all of them would be with a rectangle of that size, instead of the one of that number.
+  qint64 GrowthWith(int number, QSize size) const;
   // What holds them all.
   QSize Extent() const;
 

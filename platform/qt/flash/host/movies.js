@@ -53,6 +53,12 @@ const movies = (() => {
     setRate();
   }
 
+  // An element that is taken away before its player is made leaves it at work; so it is taken away once more.
+  function endLate(element) {
+    document.body.appendChild(element);
+    element.remove();
+  }
+
   function ended(movie, why) {
     if (movie.gone) return;
     tell('bad', movie.slot, movie.serial, why);
@@ -255,7 +261,9 @@ const movies = (() => {
       });
       movie.player.load({
         url: about.address, base: about.base, parameters, scale: about.fit, wmode: about.back,
-      }).catch(error => ended(movie, String(error)));
+      }).catch(error => ended(movie, String(error))).then(() => {
+        if (movie.gone) endLate(element);
+      });
       setRate();
     },
 
