@@ -35,6 +35,16 @@ TEST_F(FlashAdTest, SizeBoxAndCategoryAreRestoredWithTheAdSwitchedOffToo) {
   EXPECT_FALSE(Desk().TimerFlash.Enabled);
 }
 
+// Meant so: the window's size is its own to remember, and the sliders have their say when they are moved.
+TEST_F(FlashAdTest, SizesThatAreRestoredResizeNoWindow) {
+  Store("Show", "True");
+  Store("Height", "2500");
+  Store("Width", "4500");
+  Desk();
+  EXPECT_EQ(Window().Height.Get(), 3000);
+  EXPECT_EQ(Window().Width.Get(), 3000);
+}
+
 TEST_F(FlashAdTest, TheSlidersSetTheSizeOfTheWindowHeightFirst) {
   frmFlashAdSett& desk = Desk();
   desk.sldHeight.Move(3000);

@@ -94,6 +94,21 @@ TEST_F(LeftSideAdTest, TheSliderSetsTheWidthOfTheColumnAndLaysItOut) {
   EXPECT_EQ(Output().PicSide.Height.Get(), Output().Height - Output().PicAd.Height);
 }
 
+TEST_F(LeftSideAdTest, TheColumnHasTheVeryWidthThatIsStoredAndTheSliderAWholeOne) {
+  Store("Width", "4507.5");
+  RunWith("Sweets");
+  EXPECT_EQ(Output().PicSide.Width.Get(), 4507.5);
+  EXPECT_EQ(Desk().SlidWidth.Value.Get(), 4508);
+}
+
+// Meant so.
+TEST_F(LeftSideAdTest, AMovedSliderBringsTheColumnIntoSightThoughTheAdIsSwitchedOff) {
+  Desk().SlidWidth.Move(6000);
+  EXPECT_TRUE(Output().PicSide.Visible);
+  EXPECT_EQ(Output().PicSide.Width.Get(), 6000);
+  EXPECT_EQ(Stored("Show"), "(none)");
+}
+
 TEST_F(LeftSideAdTest, TheListBeginsOneLevelTooHighUntilACategoryIsAddedOrDeleted) {
   Movie("Sweets", "a.swf");
   EXPECT_EQ(Categories(), (Names{"Clock", "FlashAd", "LeftSideAd", "Logo", "Stiker"}));
@@ -177,6 +192,7 @@ TEST_F(LeftSideAdTest, SwitchedOffByTheMenuTheColumnGoesAndTheProgrammeHasTheFul
   EXPECT_EQ(Output().Player.Left.Get(), 0);
   EXPECT_EQ(Output().Player.Width.Get(), Output().Width.Get());
   EXPECT_EQ(Stored("Show"), "False");
+  EXPECT_EQ(Output().FlashSideAd.Movie.Get(), Category("Sweets") + "/a.swf") << "what it showed stays in it";
   Advance(4s);
   EXPECT_EQ(Aired(), Names{"b.swf"}) << "the rotation goes on in the hidden column";
 }

@@ -194,9 +194,11 @@ TYPED_TEST(MovieRotationTest, WithTheAdSwitchedOffNothingRotates) {
   this->Movie("Sweets", "a.swf");
   for (const char* show : {"False", "true", "1", ""}) {
     SimWorld other;
+    other.files.CreateFolder("/station");
     Station elsewhere{other.world, "/station"};
     elsewhere.stores.SettingsFile();
     elsewhere.stores.SettingsIni.WriteValue(TypeParam::kSection, "Show", show);
+    EXPECT_EQ(elsewhere.stores.SettingsIni.ReadValue(TypeParam::kSection, "Show", "(none)"), show);
     EXPECT_FALSE(elsewhere.forms.template Get<typename TypeParam::Desk>().TimerFlash.Enabled) << show;
   }
 }
@@ -440,6 +442,7 @@ TYPED_TEST(MovieRotationTest, TheBoxOfTheLogoIsStoredAndRestoredAndNothingElse) 
   EXPECT_TRUE(form.chkShowLogo.Ticked());
   form.chkShowLogo.Toggle();
   EXPECT_EQ(this->Stored("ShowLogo"), "0");
+  EXPECT_EQ(this->Stored("Show"), "True");
   form.chkShowLogo.Toggle();
   EXPECT_EQ(this->Stored("ShowLogo"), "1");
   EXPECT_EQ(this->Stored("Show"), "True");
