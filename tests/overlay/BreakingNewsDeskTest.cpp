@@ -248,6 +248,21 @@ TEST_F(BreakingNewsDeskTest, TheLeftIsWrittenWhenTheSliderIsLetGoAndWinsAtTheNex
   EXPECT_EQ(Strip().Left, 630);
 }
 
+// Top, width and height are the window's own to remember.
+TEST_F(BreakingNewsDeskTest, OfTheStripsPlaceTheLeftAloneIsAlsoASetting) {
+  Strip().Show();
+  for (Slider* slider : {&Desk().sldTop, &Desk().sldWidth, &Desk().sldHeight}) {
+    slider->Move(300);
+    slider->LetGo(300);
+  }
+  for (const char* key : {"Left", "Top", "Width", "Height"}) EXPECT_EQ(Setting("BreakingNews", key), "(none)") << key;
+}
+
+TEST_F(BreakingNewsDeskTest, BlanksAroundATextAreKept) {
+  Add("  late  ");
+  EXPECT_EQ(Stored(), (All{{"  late  ", true}}));
+}
+
 TEST_F(BreakingNewsDeskTest, APlaceSetWhileTheStripIsOffIsThereWhenItComesOn) {
   Desk().Show();
   Desk().sldTop.Move(300);

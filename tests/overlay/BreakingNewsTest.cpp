@@ -26,6 +26,15 @@ TEST_F(BreakingNewsTest, ALeftThatIsNoNumberIsZero) {
   EXPECT_EQ(Strip().Left, 0);
 }
 
+// Meant so: a strip on a screen to the left of the first one stands there.
+TEST_F(BreakingNewsTest, ALeftBesideTheScreenIsTakenAsItIsAndOfWordsBehindANumberNothing) {
+  Set("BreakingNews", "Left", "-19200");
+  EXPECT_EQ(Strip().Left, -19200);
+  station.forms.Unload<frmBreakingNews>();
+  Set("BreakingNews", "Left", "450 twips");
+  EXPECT_EQ(Strip().Left, 450);
+}
+
 TEST_F(BreakingNewsTest, ItIsDesignedForTheLowerEdgeOfTheDesignedOutput) {
   EXPECT_EQ(Strip().Top, 9000);
   EXPECT_EQ(Strip().Width, 15450);
@@ -42,6 +51,7 @@ TEST_F(BreakingNewsTest, ItIsOpaqueInTheMoviesOwnBackgroundKeepsItsProportionsAn
 TEST_F(BreakingNewsTest, MovieAndPaneCoverTheStripWhateverItsSize) {
   const auto expectCovered = [this] {
     for (const Control* one : Strip().Controls()) {
+      EXPECT_TRUE(one->Visible) << one->Name();
       EXPECT_EQ(one->Left, 0) << one->Name();
       EXPECT_EQ(one->Top, 0) << one->Name();
       EXPECT_EQ(one->Width, Strip().Width) << one->Name();
@@ -49,6 +59,7 @@ TEST_F(BreakingNewsTest, MovieAndPaneCoverTheStripWhateverItsSize) {
     }
   };
   expectCovered();
+  EXPECT_EQ(Strip().Controls().front(), &Strip().Flash) << "the pane behind the movie";
   Strip().Width = 20000;
   Strip().Height = 1200;
   expectCovered();
@@ -115,6 +126,14 @@ TEST_F(BreakingNewsTest, TheNextHeadlineIsAskedForOnceALoopAndNotAtEachTickOfTha
   EXPECT_EQ(Given(), Names{"a"});
 }
 
+// Meant so: its movie does not go on to its end.
+TEST_F(BreakingNewsTest, AHeadlineThatIsAloneStartsTheMovieAnewInEachLoop) {
+  Store({{"a", true}});
+  Strip();
+  Advance(3 * kLoop);
+  EXPECT_EQ(Given(), (Names{"Hello Orlin", "a", "a", "a"}));
+}
+
 TEST_F(BreakingNewsTest, TheFrameIsNotMissedWhereSeveralComeBetweenTwoTicks) {
   Store({{"a", true}, {"b", true}});
   for (const int together : {2, 7, 30, 100}) {
@@ -177,12 +196,15 @@ TEST_F(BreakingNewsTest, AMovieOfThreeFramesDoesNotEither) {
   EXPECT_EQ(Given(), Names{});
 }
 
-TEST_F(BreakingNewsTest, WithoutItsMovieTheStripIsEmptyAndNobodyIsTold) {
+TEST_F(BreakingNewsTest, WithoutItsMovieTheStripIsEmptyAndOpaqueNobodyIsToldAndNoHeadlineIsAskedFor) {
   Store({{"a", true}});
   sim.files.Remove(kMovie);
   Strip().Show();
   Advance(1min);
-  for (const std::string& line : sim.trace.Take()) EXPECT_FALSE(line.starts_with("box")) << line;
+  const Names lines = sim.trace.Take();
+  for (const std::string& line : lines) EXPECT_FALSE(line.starts_with("box")) << line;
+  EXPECT_EQ(std::ranges::count(lines, std::string("frmBreakingNews.Flash movie ") + kMovie), 1);
+  EXPECT_EQ(Strip().ExtendedStyle, 0);
   EXPECT_EQ(Surface().Shown(), "");
   EXPECT_EQ(Strip().Flash.TotalFrames(), 0);
 }
@@ -226,8 +248,11 @@ TEST_F(BreakingNewsTest, ItsTimersAreOneThatNeverTicksAndOneOfAMillisecond) {
 
 TEST_F(BreakingNewsTest, AMouseMoveOverTheBareFormWritesLeftWithAndWithoutAButton) {
   Strip().Left = 750;
+  sim.trace.Take();
   Strip().MoveMouse({.x = 10, .y = 10});
+  EXPECT_EQ(std::ranges::count(sim.trace.Take(), "frmBreakingNews dragged"), 0) << "here a move alone does not drag";
   EXPECT_EQ(Setting("BreakingNews", "Left"), "750");
+  EXPECT_EQ(Setting("BreakingNews", "Top"), "(none)");
   Strip().Left = 1507.5;
   Strip().MoveMouse({.x = 10, .y = 10, .buttons = static_cast<int>(MouseButton::kRight)});
   EXPECT_EQ(Setting("BreakingNews", "Left"), "1507.5");
@@ -310,6 +335,15 @@ TEST_F(BreakingNewsMenuTest, AStartWithTheStripOffOrOfAnyOtherValueLoadsNone) {
     EXPECT_FALSE(station.forms.Loaded<frmBreakingNews>()) << value;
     EXPECT_FALSE(ControlWindow().mnuBreakingNewsShow.Checked) << value;
   }
+}
+
+// Meant so: the overlays alone are brought in front of it again.
+TEST_F(BreakingNewsMenuTest, AMaskedOutputCoversTheStripAndTheLogoStandsAboveBoth) {
+  for (const char* section : {"BreakingNews", "logo", "Output"}) Set(section, "Show", "True");
+  ControlWindow();
+  ControlWindow().mnuMasking.Choose();
+  const Names stack = sim.windows.Stack();
+  EXPECT_EQ(Names(stack.begin(), stack.begin() + 3), (Names{"FrmLogoShow", "frmPlayer", "frmBreakingNews"}));
 }
 
 TEST_F(BreakingNewsMenuTest, AStartShowsTheStripBehindTheOutput) {

@@ -122,9 +122,10 @@ TEST_F(HeadlinesTest, ADeletedHeadlineDoesNotComeBackByATwinOfItsSection) {
 }
 
 TEST_F(HeadlinesTest, WhatIsNotActive1IsOff) {
-  Put("[1]\r\nText=a\r\n[2]\r\nText=b\r\nActive=\r\n[3]\r\nText=c\r\nActive=yes\r\n[4]\r\nText=d\r\nActive=11\r\n");
+  Put("[1]\r\nText=a\r\n[2]\r\nText=b\r\nActive=\r\n[3]\r\nText=c\r\nActive=yes\r\n[4]\r\nText=d\r\nActive=11\r\n"
+      "[5]\r\nText=e\r\nActive=True\r\n[6]\r\nText=f\r\nActive=01\r\n");
   EXPECT_EQ(Next(), "(none)");
-  EXPECT_EQ(news.All().size(), 4u);
+  EXPECT_EQ(news.All().size(), 6u);
 }
 
 TEST_F(HeadlinesTest, ATornFileGivesWhatIsLeftOfIt) {
