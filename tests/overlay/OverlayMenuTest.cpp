@@ -121,6 +121,16 @@ TEST_F(OverlayMenuTest, OnlyOverlaysWhoseKeySaysTrueAreBroughtInFrontOfAMaskedOu
   EXPECT_FALSE(station.forms.Loaded<frmStikerShow>());
 }
 
+// Meant so: what its key calls on is brought to life.
+TEST_F(OverlayMenuTest, MaskingLoadsAnOverlayWhoseKeySaysTrueAndShowsItToNobody) {
+  Set("Output", "Show", "True");
+  ControlWindow();
+  Set("Stiker", "Show", "True");
+  ControlWindow().mnuMasking.Choose();
+  ASSERT_TRUE(station.forms.Loaded<frmStikerShow>());
+  EXPECT_FALSE(station.forms.Get<frmStikerShow>().Visible);
+}
+
 TEST_F(OverlayMenuTest, UnmaskingLeavesTheOverlaysOnTop) {
   Set("Output", "Show", "True");
   Set("logo", "Show", "True");
@@ -129,6 +139,15 @@ TEST_F(OverlayMenuTest, UnmaskingLeavesTheOverlaysOnTop) {
   ControlWindow().mnuMasking.Choose();
   EXPECT_EQ(sim.windows.Stack().at(0), "FrmLogoShow");
   EXPECT_TRUE(Logo().OnTop);
+}
+
+TEST_F(OverlayMenuTest, UnmaskingBringsNoOverlayForward) {
+  for (const char* section : {"Output", "logo", "Clock"}) Set(section, "Show", "True");
+  ControlWindow();
+  ControlWindow().mnuMasking.Choose();
+  Logo().win.OnTop = true;
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_EQ(sim.windows.Stack().at(0), "FrmLogoShow");
 }
 
 }  // namespace

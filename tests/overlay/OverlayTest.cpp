@@ -76,9 +76,19 @@ TYPED_TEST(EachOverlayTest, AStoredLeftWinsHalfASecondAfterTheLoadAndOnlyOnce) {
   this->Advance(500ms);
   EXPECT_EQ(form.Left, 2407.5);
   EXPECT_FALSE(form.Timer1.Enabled);
+  form.Show();
   this->Set(this->kind.section, "Left", "30");
   this->Advance(5s);
   EXPECT_EQ(form.Left, 2407.5);
+}
+
+// Meant so: an overlay on a screen to the left of the first one comes back there.
+TYPED_TEST(EachOverlayTest, ALeftBesideTheScreenIsTakenAsItIsAndOfWordsBehindANumberNothing) {
+  this->Set(this->kind.section, "Left", "-19200");
+  EXPECT_EQ((this->Overlay(), this->Advance(1s), this->Overlay().Left.Get()), -19200);
+  this->station.forms.template Unload<TypeParam>();
+  this->Set(this->kind.section, "Left", "450 twips");
+  EXPECT_EQ((this->Overlay(), this->Advance(1s), this->Overlay().Left.Get()), 450);
 }
 
 TYPED_TEST(EachOverlayTest, DraggingStoresTheLeftEdgeAloneAndAfterARestartTheTopComesFromTheWindowsStore) {
@@ -203,6 +213,11 @@ TYPED_TEST(OverlayWithAMovieTest, TheMovieOfItsOwnSectionFillsTheWindowInItsProp
             (FlashLooks{FlashLooks::Back::kSeeThrough, FlashLooks::Fit::kKeepProportions, false}));
   EXPECT_EQ(form.KeyInForce(), this->kKey);
   EXPECT_EQ(this->Warnings(), 0);
+}
+
+TYPED_TEST(OverlayWithAMovieTest, APictureMakesItSeeThroughAsAMovieDoes) {
+  this->Set(this->kind.section, "Path", this->Movie("still.jpg"));
+  EXPECT_EQ(this->Overlay().KeyInForce(), this->kKey);
 }
 
 TYPED_TEST(OverlayWithAMovieTest, AnUnloadedWindowGoesThroughItsWholeLoadAgain) {
