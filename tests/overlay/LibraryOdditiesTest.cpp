@@ -8,6 +8,11 @@ using LogoLibraryTest = LibraryTest<LogoLibrary>;
 using ClockLibraryTest = LibraryTest<ClockLibrary>;
 using StickerLibraryTest = LibraryTest<StickerLibrary>;
 
+template <class L>
+class LibraryOfClickedFilesTest : public LibraryTest<L> {};
+using OfClickedFiles = testing::Types<LogoLibrary, StickerLibrary>;
+TYPED_TEST_SUITE(LibraryOfClickedFilesTest, OfClickedFiles);
+
 TEST_F(LogoLibraryTest, AfterADeleteTheFilesAreLookedForOneFolderTooHighAndTheListIsEmptyUntilTheNextClick) {
   PickFile("news", "a.swf");
   Answered(Answer::kYes, Desk().btnDelete);
@@ -37,18 +42,18 @@ TEST_F(StickerLibraryTest, TheRootHasASeparatorAtItsEndWhenItIsOpenedAndIsReadAn
   EXPECT_EQ(Categories(), (Names{"art", "news", "sport", "zoo"}));
 }
 
-TEST_F(LogoLibraryTest, SettingTheLogoBeforeAnyClickClearsThePath) {
-  Set("Logo", "Path", At("news/a.swf"));
-  Desk().BtnSetLogo.Press();
-  EXPECT_EQ(Setting("Logo", "Path"), "");
-  EXPECT_EQ(Overlay().Flash.Movie.Get(), "");
+TYPED_TEST(LibraryOfClickedFilesTest, SettingItBeforeAnyClickClearsThePath) {
+  this->Set(TypeParam::kSection, "Path", this->At("news/a.swf"));
+  this->Desk().BtnSetLogo.Press();
+  EXPECT_EQ(this->Setting(TypeParam::kSection, "Path"), "");
+  EXPECT_EQ(this->Overlay().Flash.Movie.Get(), "");
 }
 
-TEST_F(LogoLibraryTest, AFileThatIsOnlySelectedByKeyIsNotTheOneThatIsSet) {
-  PickFile("news", "a.swf");
-  Desk().FileList.PressKey(DrawnList::Key::kDown);
-  Desk().BtnSetLogo.Press();
-  EXPECT_EQ(Setting("Logo", "Path"), At("news/a.swf"));
+TYPED_TEST(LibraryOfClickedFilesTest, AFileThatIsOnlySelectedByKeyIsNotTheOneThatIsSet) {
+  this->PickFile("news", "a.swf");
+  this->Desk().FileList.PressKey(DrawnList::Key::kDown);
+  this->Desk().BtnSetLogo.Press();
+  EXPECT_EQ(this->Setting(TypeParam::kSection, "Path"), this->At("news/a.swf"));
 }
 
 TEST_F(ClockLibraryTest, TheClockTakesTheFileThatIsSelectedNowClickedOrNot) {
@@ -79,13 +84,13 @@ TEST_F(ClockLibraryTest, TheFirstClockSetOnAnOverlayWithADeadPathBringsTheWarnin
   EXPECT_TRUE(Asked().empty());
 }
 
-TEST_F(LogoLibraryTest, AFirstLogoIsWrittenBeforeItsOverlayIsLoadedSoThatADeadPathBringsNoWarning) {
-  Set("Logo", "Path", "/gone.swf");
-  PickFile("news", "a.swf");
-  sim.trace.Take();
-  Desk().BtnSetLogo.Press();
-  Advance(std::chrono::seconds(1));
-  EXPECT_TRUE(Asked().empty());
+TYPED_TEST(LibraryOfClickedFilesTest, TheFirstOneIsWrittenBeforeItsOverlayIsLoadedSoThatADeadPathBringsNoWarning) {
+  this->Set(TypeParam::kSection, "Path", "/gone.swf");
+  this->PickFile("news", "a.swf");
+  this->sim.trace.Take();
+  this->Desk().BtnSetLogo.Press();
+  this->Advance(std::chrono::seconds(1));
+  EXPECT_TRUE(this->Asked().empty());
 }
 
 TEST_F(LogoLibraryTest, DeletingTheCategoryOfTheFileOnTheAirBringsTheWarningAtTheNextStart) {

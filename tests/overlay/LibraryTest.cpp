@@ -45,6 +45,24 @@ TYPED_TEST(LibraryTest, AClickOnAFilePlaysItInThePreviewWithoutItsSound) {
   EXPECT_EQ(this->Setting(TypeParam::kSection, "Path"), "(none)");
 }
 
+// What comes in is the dialog's matter; the list leaves nothing out.
+TYPED_TEST(LibraryTest, FilesOfEveryKindAreListedAndSet) {
+  for (const char* file : {"news/c.jpg", "news/notes.txt", "news/noending"}) this->sim.files.Put(this->At(file), "");
+  this->PickFile("news", "noending");
+  EXPECT_EQ(this->Files(), (Names{"a.swf", "b.swf", "c.jpg", "noending", "notes.txt"}));
+  TypeParam::Set(this->Desk()).Press();
+  EXPECT_EQ(this->Setting(TypeParam::kSection, "Path"), this->At("news/noending"));
+}
+
+// Meant so: SelectedPath is the file that was clicked last, whatever is listed now and whatever became of it.
+TYPED_TEST(LibraryTest, TheFileThatWasClickedLastStaysWhenItIsDeletedAndWhenAnotherCategoryIsClicked) {
+  this->PickFile("news", "a.swf");
+  this->Answered(Answer::kYes, this->Desk().btnDelete);
+  this->PickCategory("sport");
+  EXPECT_EQ(this->Desk().SelectedPath, this->At("news/a.swf"));
+  EXPECT_EQ(this->Desk().FlashPreview.Movie.Get(), this->At("news/a.swf"));
+}
+
 TYPED_TEST(LibraryTest, AFileIsCopiedIntoTheCategoryAndListed) {
   this->PickCategory("sport");
   this->sim.trace.Take();
@@ -117,6 +135,17 @@ TYPED_TEST(LibraryTest, ADeleteWithNoFileSelectedDeletesNothing) {
   EXPECT_EQ(this->sim.files.List(this->At("news"), FileKind::kRegular), (Names{"a.swf", "b.swf"}));
 }
 
+// Meant so.
+TYPED_TEST(LibraryTest, WithNothingPickedBothDeletesAskAllTheSame) {
+  this->Desk().Show();
+  this->sim.trace.Take();
+  this->Answered(Answer::kYes, this->Desk().btnDelete);
+  EXPECT_EQ(this->Asked(), Names{TypeParam::kDelete});
+  this->Answered(Answer::kYes, this->Desk().vkCommand2);
+  EXPECT_EQ(this->Asked(), Names{"box \"Are You Sure you wnat to Delete this category?\" \"DELETE\""});
+  EXPECT_EQ(this->Categories(), (Names{"news", "sport"}));
+}
+
 TYPED_TEST(LibraryTest, AFileThatWasPickedWithoutACategoryCanBeDeleted) {
   this->sim.files.Put(this->At("stray.swf"), "movie");
   this->Desk().FileList.PressRow(0);
@@ -138,7 +167,10 @@ TYPED_TEST(LibraryTest, ACancelledNameMakesNothing) {
 }
 
 TYPED_TEST(LibraryTest, ANameWithASeparatorOrOfDotsAloneMakesNothingAnywhere) {
+  this->Desk().Show();
+  this->sim.trace.Take();
   for (const char* name : {"a/b", "a\\b", "../up", "..", ".", "...", "/", "/etc"}) this->AddCategory(name);
+  EXPECT_EQ(this->Asked(), Names{}) << "and nobody is told";
   EXPECT_EQ(this->Categories(), (Names{"news", "sport"}));
   EXPECT_EQ(this->sim.files.List(TypeParam::kFolder, FileKind::kFolder), (Names{"news", "sport"}));
   EXPECT_EQ(this->sim.files.Kind("/station/Media/up"), FileKind::kAbsent);
@@ -231,12 +263,10 @@ TYPED_TEST(LibraryTest, AMovedSliderIsWrittenAndResizesTheOverlayAtOnceThoughItI
 }
 
 TYPED_TEST(LibraryTest, AnEmptySizeLeavesItsSliderAtTheDesignsValue) {
-  const int design = this->Desk().sldHeight.Value;
-  this->Desk().Close();
   this->Set(TypeParam::kSection, "Height", "");
-  this->Set(TypeParam::kSection, "Width", "wide");
-  EXPECT_EQ(this->Desk().sldHeight.Value, design);
-  EXPECT_EQ(this->Desk().SlidWidth.Value, design);
+  this->Set(TypeParam::kSection, "Width", "4500 wide");
+  EXPECT_EQ(this->Desk().sldHeight.Value, 3000);
+  EXPECT_EQ(this->Desk().SlidWidth.Value, 3000);
 }
 
 TYPED_TEST(LibraryTest, ASliderTakesItsRangeFromTheScreenWhenItIsMovedAndTheOtherKeepsItsOwn) {
@@ -248,6 +278,15 @@ TYPED_TEST(LibraryTest, ASliderTakesItsRangeFromTheScreenWhenItIsMovedAndTheOthe
   EXPECT_EQ(this->Desk().SlidWidth.Max, design);
   this->Desk().SlidWidth.Move(5000);
   EXPECT_EQ(this->Desk().SlidWidth.Max, 19200);
+}
+
+TYPED_TEST(LibraryTest, UntilItsFirstMoveASliderHasTheRangeOfTheDesignWhateverTheScreen) {
+  this->sim.windows.screenSize = {1280, 720};
+  this->Desk().Show();
+  for (const Slider* slider : {&this->Desk().sldHeight, &this->Desk().SlidWidth}) {
+    EXPECT_EQ(slider->Min, 1000);
+    EXPECT_EQ(slider->Max, 28800);
+  }
 }
 
 TYPED_TEST(LibraryTest, ASizeBeyondSixteenBitsIsWrittenAndLeavesTheOverlayAsItIs) {
@@ -264,12 +303,14 @@ TYPED_TEST(LibraryTest, ASizeBeyondSixteenBitsIsWrittenAndLeavesTheOverlayAsItIs
 TYPED_TEST(LibraryTest, TheBoxSwitchesTheKeyColourOfTheOverlayAndIsNotKept) {
   EXPECT_TRUE(this->Desk().chkTransparent.Ticked());
   EXPECT_FALSE(this->OverlayLoaded());
+  const auto settings = this->sim.files.Read("/station/Settings.ini");
   this->Desk().chkTransparent.Toggle();
   ASSERT_TRUE(this->OverlayLoaded());
   EXPECT_FALSE(this->Overlay().KeyInForce());
   this->Desk().chkTransparent.Toggle();
   EXPECT_TRUE(this->Overlay().KeyInForce());
   this->Desk().chkTransparent.Toggle();
+  EXPECT_EQ(this->sim.files.Read("/station/Settings.ini"), settings);
   this->Desk().Close();
   EXPECT_TRUE(this->Desk().chkTransparent.Ticked());
 }
