@@ -37,6 +37,17 @@ MovieProgram::~MovieProgram() {
   process_->waitForFinished(1000);
 }
 
+// Nobody waits for its end: it comes when it comes.
+void MovieProgram::Stop() {
+  startAgain_.stop();
+  channel_.reset();
+  if (!process_) return;
+  process_->disconnect(this);
+  process_->kill();
+  QProcess* ending = process_.release();
+  connect(ending, &QProcess::finished, ending, &QObject::deleteLater);
+}
+
 void MovieProgram::Start() {
   if (channel_ || startAgain_.isActive()) return;
   auto ends = Channel::Pair();

@@ -11,9 +11,9 @@
 
 #include "platform/qt/flash/Channel.h"
 
-// The program that plays the movies, in a process of its own: a browser's faults must not take the station off the air,
-// and its work must not hold up the station's thread. It is started by the first message, started again when it ends,
-// and ends with this object, or with this process however that ends.
+// A program that plays movies or shows pages, in a process of its own: a browser's faults must not take the station off
+// the air, and its work must not hold up the station's thread. It is started by the first message, started again when
+// it ends, and ends with this object, or with this process however that ends.
 class MovieProgram : public QObject {
  public:
   using Heard = std::function<void(const QCborArray& message)>;
@@ -26,6 +26,8 @@ class MovieProgram : public QObject {
   // Without effect while it is not running.
   void Send(const QCborArray& message, std::shared_ptr<const Descriptor> with = {});
   void Start();
+  // Ends it; Start starts it again.
+  void Stop();
 
  private:
   void Ended();

@@ -1,6 +1,5 @@
 #include "platform/qt/flash/host/Page.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -11,6 +10,7 @@
 
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/LineReceiver.h"
+#include "platform/qt/flash/host/Lives.h"
 
 namespace {
 
@@ -135,19 +135,9 @@ void Page::Ask() {
   if (!due_.isActive()) due_.start(std::max<int>(0, kBetweenPaintings - static_cast<int>(sincePainted_.elapsed())));
 }
 
-// A view whose renderer is gone is blank before anybody is told.
-bool Page::IsAlive() const {
-  QFile about(QString("/proc/%1/stat").arg(view_->property("renderProcessPid").toLongLong()));
-  if (!about.open(QIODevice::ReadOnly)) return false;
-  constexpr unsigned kExiting = 4;  // of the process' flags, the seventh field behind its name
-  const QByteArray line = about.readAll();
-  const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-  return fields.size() > 6 && fields[0] != "Z" && fields[0] != "X" && (fields[6].toULongLong() & kExiting) == 0;
-}
-
 void Page::Paint() {
   sincePainted_.restart();
-  if (!IsAlive()) return;
+  if (!Lives(view_->property("renderProcessPid").toLongLong())) return;
   control_.polishItems();
   control_.sync();
   control_.render();

@@ -60,7 +60,6 @@ class Page : public QObject {
   void Fit();
   void Ask();
   void Paint();
-  bool IsAlive() const;
   bool Changed(const Part& part) const;
   bool MustWait(const Part& part) const;
 
