@@ -1,0 +1,191 @@
+#include "platform/qt/web/host/WebPage.h"
+
+#include <QCborArray>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QWheelEvent>
+#include <QtWebEngineQuick/QQuickWebEngineProfile>
+#include <algorithm>
+#include <cstring>
+
+#include "platform/qt/flash/host/Lives.h"
+#include "platform/qt/web/WebWire.h"
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr int kBetweenPaintings = 16;  // milliseconds
+constexpr int kSomethingIsThere = 50;  // per cent of a page's loading
+constexpr milliseconds kAGoodLife{10'000};
+constexpr milliseconds kFirstPause{250};
+constexpr milliseconds kLongestPause{30'000};
+constexpr milliseconds kUntilAnotherBegins{100};
+constexpr QSize kFirstSize{640, 480};
+
+}  // namespace
+
+WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& guard, Listener listener)
+    : listener_(std::move(listener)),
+      gate_(guard, {[this] { Started(); }, [this] { Stopped(); }, [this](bool succeeded) { Ended(succeeded); },
+                    [this](int percent) { Progress(percent); }, [this](const QString& address) { Hovered(address); },
+                    [this] { Died(); }}),
+      window_(std::make_unique<QQuickWindow>(&control_)) {
+  window_->setColor(Qt::transparent);
+  QQmlComponent component(&engine, QUrl("qrc:/pages/View.qml"));
+  view_ = qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+      {{"gate", QVariant::fromValue<QObject*>(&gate_)}, {"profile", QVariant::fromValue(&profile)}}));
+  if (view_ == nullptr) qFatal("The page cannot be made: %s", qPrintable(component.errorString()));
+  view_->setParentItem(window_->contentItem());
+  connect(&control_, &QQuickRenderControl::sceneChanged, this, &WebPage::Ask);
+  connect(&control_, &QQuickRenderControl::renderRequested, this, &WebPage::Ask);
+  due_.setSingleShot(true);
+  due_.setTimerType(Qt::PreciseTimer);
+  connect(&due_, &QTimer::timeout, this, &WebPage::Paint);
+  comeBack_.setSingleShot(true);
+  comeBack_.setInterval(kFirstPause);
+  connect(&comeBack_, &QTimer::timeout, this, &WebPage::Reload);
+  sincePainted_.start();
+  window_->setGeometry(0, 0, kFirstSize.width(), kFirstSize.height());
+  window_->contentItem()->setSize(kFirstSize);
+  view_->setSize(kFirstSize);
+  // Nobody looks at the window, and yet keys go to its page.
+  QFocusEvent focus(QEvent::FocusIn);
+  QCoreApplication::sendEvent(window_.get(), &focus);
+}
+
+WebPage::~WebPage() { delete view_; }
+
+void WebPage::Place(std::shared_ptr<SharedFrames> frames) {
+  frames_ = std::move(frames);
+  picture_ = {};
+  if (!frames_) return;
+  const QSize size = frames_->Size();
+  window_->setGeometry(0, 0, size.width(), size.height());
+  window_->contentItem()->setSize(size);
+  view_->setSize(size);
+  Ask();
+}
+
+void WebPage::Open(const QUrl& address) {
+  comeBack_.stop();
+  comeBack_.setInterval(kFirstPause);
+  address_ = address;
+  status_.clear();
+  gate_.Open(address);
+  if (address.isEmpty()) begun_ = false;
+  view_->setProperty("url", address.isEmpty() ? QUrl("about:blank") : address);
+}
+
+void WebPage::Reload() {
+  sinceBack_.start();
+  QMetaObject::invokeMethod(view_, "reload");
+}
+
+void WebPage::SetLooks(int zoom, bool sound, bool scrollBars) {
+  zoom_ = zoom;
+  ApplyZoom();
+  view_->setProperty("audioMuted", !sound);
+  view_->property("settings").value<QObject*>()->setProperty("showScrollBars", scrollBars);
+}
+
+// A renderer that is new does not know it.
+void WebPage::ApplyZoom() { view_->setProperty("zoomFactor", zoom_ / 100.0); }
+
+void WebPage::Progress(int percent) {
+  if (percent < kSomethingIsThere || address_.isEmpty()) return;
+  begun_ = true;
+  Ask();
+}
+
+void WebPage::Tell(const QString& status) {
+  if (status == status_) return;
+  status_ = status;
+  listener_.status(status);
+}
+
+void WebPage::Hovered(const QString& address) {
+  const bool loads = view_->property("loading").toBool();
+  if (!address_.isEmpty()) Tell(!address.isEmpty() ? address : loads ? "Loading.." : "Done");
+}
+
+void WebPage::Started() {
+  if (!address_.isEmpty()) Tell("Loading..");
+}
+
+// By now another page may be loading.
+void WebPage::Stopped() {
+  QTimer::singleShot(kUntilAnotherBegins, this, [this] {
+    if (!address_.isEmpty() && !view_->property("loading").toBool()) Tell("Done");
+  });
+}
+
+void WebPage::Ended(bool succeeded) {
+  if (address_.isEmpty()) return;
+  ApplyZoom();
+  begun_ = true;
+  picture_ = {};
+  Ask();
+  Tell("Done");
+  if (succeeded) listener_.loaded();
+}
+
+// A page that brings its renderer down each time must not keep the machine busy with it.
+void WebPage::Died() {
+  if (address_.isEmpty() || comeBack_.isActive()) return;
+  const bool livedWell = !sinceBack_.isValid() || milliseconds(sinceBack_.elapsed()) >= kAGoodLife;
+  const milliseconds pause = livedWell ? kFirstPause : std::min(comeBack_.intervalAsDuration() * 2, kLongestPause);
+  comeBack_.start(pause);
+  begun_ = false;  // what it shows first is nothing
+}
+
+void WebPage::Ask() {
+  if (!due_.isActive()) due_.start(std::max<int>(0, kBetweenPaintings - static_cast<int>(sincePainted_.elapsed())));
+}
+
+void WebPage::Paint() {
+  sincePainted_.restart();
+  if (!frames_ || !begun_ || comeBack_.isActive()) return;
+  if (!Lives(view_->property("renderProcessPid").toLongLong())) return;
+  const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  if (picture.size() != frames_->Size()) return Ask();
+  if (!Changed(picture)) return;
+  const auto stride = static_cast<std::size_t>(frames_->Stride());
+  uchar* to = frames_->Paint();
+  for (int row = 0; row < picture.height(); ++row) std::memcpy(to + row * stride, picture.constScanLine(row), stride);
+  frames_->Publish();
+  picture_ = picture;
+  listener_.painted();
+}
+
+bool WebPage::Changed(const QImage& picture) const {
+  return picture_.size() != picture.size() ||
+         std::memcmp(picture_.constBits(), picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes())) != 0;
+}
+
+void WebPage::Take(const QCborArray& input) {
+  const auto number = [&input](qsizetype place) { return static_cast<int>(input[place].toInteger()); };
+  const QString about = input[0].toString();
+  if (about == wire::kKey) {
+    QKeyEvent key(static_cast<QEvent::Type>(number(2)), number(3), Qt::KeyboardModifiers(number(4)),
+                  input[5].toString());
+    QCoreApplication::sendEvent(window_.get(), &key);
+    return;
+  }
+  const bool isWheel = about == wire::kWheel;
+  const QPointF place(input[isWheel ? 2 : 3].toDouble(), input[isWheel ? 3 : 4].toDouble());
+  if (isWheel) {
+    QWheelEvent wheel(place, place, {}, {number(4), number(5)}, Qt::MouseButtons(number(6)),
+                      Qt::KeyboardModifiers(number(7)), Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window_.get(), &wheel);
+  } else {
+    QMouseEvent mouse(static_cast<QEvent::Type>(number(2)), place, place, static_cast<Qt::MouseButton>(number(5)),
+                      Qt::MouseButtons(number(6)), Qt::KeyboardModifiers(number(7)));
+    QCoreApplication::sendEvent(window_.get(), &mouse);
+    if (mouse.type() == QEvent::MouseButtonPress) view_->forceActiveFocus();
+  }
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QObject>
+#include <QQuickRenderControl>
+#include <QQuickWindow>
+#include <QTimer>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "platform/qt/flash/SharedFrames.h"
+#include "platform/qt/web/host/Gate.h"
+
+class QCborArray;
+class QQmlEngine;
+class QQuickItem;
+class QQuickWebEngineProfile;
+
+// One web page, in a window that is never shown. It is painted into a picture whenever it changes, 60 times a second at
+// most. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile.
+class WebPage : public QObject {
+ public:
+  struct Listener {
+    std::function<void()> painted;
+    std::function<void(const QString& text)> status;
+    std::function<void()> loaded;
+  };
+
+  // All three must outlive it.
+  WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& guard, Listener listener);
+  ~WebPage() override;
+
+  // Its size, and where its pictures go; without frames it is not painted, and keeps its size.
+  void Place(std::shared_ptr<SharedFrames> frames);
+  // The empty address is an empty page, of which no picture is given.
+  void Open(const QUrl& address);
+  void Reload();
+  void SetLooks(int zoom, bool sound, bool scrollBars);
+  // A message of the mouse, the wheel or the keys, see WebWire.
+  void Take(const QCborArray& input);
+
+ private:
+  void ApplyZoom();
+  void Progress(int percent);
+  void Tell(const QString& status);
+  void Hovered(const QString& address);
+  void Started();
+  void Stopped();
+  void Ended(bool succeeded);
+  void Died();
+  void Ask();
+  void Paint();
+  bool Changed(const QImage& picture) const;
+
+  Listener listener_;
+  Gate gate_;
+  QQuickRenderControl control_;
+  std::unique_ptr<QQuickWindow> window_;
+  QQuickItem* view_ = nullptr;
+  std::shared_ptr<SharedFrames> frames_;
+  QUrl address_;
+  int zoom_ = 100;
+  QString status_;      // told last of this page
+  bool begun_ = false;  // something of the page can be seen
+  QImage picture_;      // the last one
+  QTimer due_;
+  QElapsedTimer sincePainted_;
+  QTimer comeBack_;
+  QElapsedTimer sinceBack_;
+};
