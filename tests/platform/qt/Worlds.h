@@ -14,6 +14,8 @@
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/scene/PictureLoader.h"
+#include "platform/qt/web/QtBrowser.h"
+#include "platform/sim/SimBrowser.h"
 #include "platform/sim/SimWorld.h"
 #include "tests/platform/qt/TestMedia.h"
 #include "tests/platform/swf/MovieWriter.h"
@@ -48,6 +50,8 @@ class VirtualWorld {
   static std::string Absent() { return "/absent.mp4"; }
 
   SimWorld sim;
+  SimBrowser pages{sim.time, sim.trace};
+  BrowserEngine& browser = pages;
   Scheduler& scheduler = sim.time;
   MediaEngine& media = sim.media;
   World& world = sim.world;
@@ -76,10 +80,12 @@ class RealWorld {
   MpvEngine media_;
   PictureLoader loader_;
   QtFlash flash_{loader_, MOVIE_PROGRAM};
+  QtBrowser browser_{PAGE_PROGRAM, test_media::PathOf("profile")};
   QtPictures pictures_;
   SimWorld rest_;
 
  public:
+  BrowserEngine& browser = browser_;
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
   // Time, disk, media and pictures are real.
