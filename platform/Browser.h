@@ -32,7 +32,8 @@ class BrowserSurface {
   virtual ~BrowserSurface() = default;
 
   // Opens an address of http, https or file in place of what is shown, which stands until something of the new page
-  // can be seen. Any other address is not opened; the empty one shows nothing, and nothing is told of it.
+  // can be seen. A page that cannot be had shows as the browser's own error page and is tried again every now and then.
+  // Any other address is not opened; the empty one shows nothing, and nothing is told of it.
   virtual void Navigate(const std::string& address) = 0;
   // Loads what is shown once more.
   virtual void Reload() = 0;

@@ -64,9 +64,10 @@ void SimPage::End() {
   SimBrowser& browser = browser_;
   const std::string name = name_;
   const std::string loaded = address_;
+  if (browser_.cannotBeHad_.contains(loaded)) Load(browser_.pauseOfTry);
   listener_.StatusChanged("Done");
   const bool isStillIt = browser.Find(name) == this && waiting_ == 0 && address_ == loaded;
-  if (isStillIt && !browser.cannotBeHad_.contains(loaded)) listener_.PageLoaded();
+  if (isStillIt) listener_.PageLoaded();
 }
 
 void SimPage::Wait(milliseconds time, void (SimPage::*next)()) {

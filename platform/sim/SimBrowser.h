@@ -22,6 +22,7 @@ class SimBrowser : public BrowserEngine {
   // The faults. Of the one nothing ever comes; the other cannot be had, which shows as an error page.
   void SetNeverAnswers(const std::string& address) { neverAnswers_.insert(address); }
   void SetCannotBeHad(const std::string& address) { cannotBeHad_.insert(address); }
+  void SetCanBeHad(const std::string& address) { cannotBeHad_.erase(address); }
   // What renders the pages has died: each page loads anew, after `returnTime`.
   void Die();
 
@@ -29,6 +30,8 @@ class SimBrowser : public BrowserEngine {
   std::chrono::milliseconds answerTime{20};
   std::chrono::milliseconds loadingTime{200};
   std::chrono::milliseconds returnTime{1000};
+  // Until a page that cannot be had is tried again.
+  std::chrono::milliseconds pauseOfTry{5000};
 
   // The surface of that name that was made last; null when it is gone.
   SimPage* Find(const std::string& name) const;

@@ -104,6 +104,10 @@ void QtPage::Take(const QEvent& event) {
       program.Send({wire::kMouse, slot_, static_cast<int>(QEvent::MouseMove), place.x(), place.y(), 0, 0, 0});
       break;
     }
+    case QEvent::HoverLeave:
+    case QEvent::Leave:
+      program.Send({wire::kMouse, slot_, static_cast<int>(QEvent::MouseMove), -1.0, -1.0, 0, 0, 0});
+      break;
     case QEvent::Wheel: {
       const auto& wheel = static_cast<const QWheelEvent&>(event);
       const QPointF place = wheel.position();

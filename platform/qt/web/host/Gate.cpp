@@ -41,6 +41,10 @@ bool Gate::MayGo(const QUrl& address) const {
   return IsFile(address) ? Holds(address) : kOpen.contains(address.scheme());
 }
 
+bool Gate::MayOpen(const QUrl& address) const {
+  return !address.isEmpty() && address.scheme() != "about" && MayGo(address);
+}
+
 // What is opened as a page has passed the gate of its own view.
 void Guard::interceptRequest(QWebEngineUrlRequestInfo& request) {
   const QUrl file = request.requestUrl();

@@ -20,7 +20,8 @@ class Gate : public QObject {
     std::function<void(bool succeeded)> ended;
     std::function<void(int percent)> progress;
     std::function<void(const QString& address)> hovered;
-    std::function<void()> died;  // its renderer process
+    std::function<void()> died;      // its renderer process
+    std::function<void()> answered;  // what the view was asked by `ask`
   };
 
   // The guard must outlive it.
@@ -33,12 +34,15 @@ class Gate : public QObject {
   bool Holds(const QUrl& file) const;
 
   Q_INVOKABLE bool MayGo(const QUrl& address) const;
+  // In the place of a new window; one with nothing in it is none.
+  Q_INVOKABLE bool MayOpen(const QUrl& address) const;
   Q_INVOKABLE void Started() { listener_.started(); }
   Q_INVOKABLE void Stopped() { listener_.stopped(); }
   Q_INVOKABLE void Ended(bool succeeded) { listener_.ended(succeeded); }
   Q_INVOKABLE void Progress(int percent) { listener_.progress(percent); }
   Q_INVOKABLE void Hovered(const QUrl& address) { listener_.hovered(address.toString()); }
   Q_INVOKABLE void Died() { listener_.died(); }
+  Q_INVOKABLE void Answered() { listener_.answered(); }
 
  private:
   Guard& guard_;

@@ -5,6 +5,8 @@ import QtWebEngine
 WebEngineView {
     required property QtObject gate
 
+    function ask() { runJavaScript("0", () => gate.Answered()) }
+
     backgroundColor: "white"
     settings.playbackRequiresUserGesture: false
     settings.localContentCanAccessFileUrls: true
@@ -16,7 +18,7 @@ WebEngineView {
     settings.javascriptCanPaste: false
 
     onNavigationRequested: request => { if (!gate.MayGo(request.url)) request.reject() }
-    onNewWindowRequested: request => { if (gate.MayGo(request.requestedUrl)) url = request.requestedUrl }
+    onNewWindowRequested: request => { if (gate.MayOpen(request.requestedUrl)) url = request.requestedUrl }
     onLoadingChanged: info => {
         if (info.status === WebEngineView.LoadStartedStatus) gate.Started()
         else if (info.status === WebEngineView.LoadStoppedStatus) gate.Stopped()

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <QtWebEngineQuick/QQuickWebEngineProfile>
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 
 #include "platform/qt/flash/host/Lives.h"
@@ -20,11 +21,14 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr int kBetweenPaintings = 16;  // milliseconds
-constexpr int kSomethingIsThere = 50;  // per cent of a page's loading
+constexpr int kSomethingIsThere = 30;  // per cent of a page's loading: its first text is painted
 constexpr milliseconds kAGoodLife{10'000};
 constexpr milliseconds kFirstPause{250};
 constexpr milliseconds kLongestPause{30'000};
+constexpr milliseconds kFirstTry{2'000};
 constexpr milliseconds kUntilAnotherBegins{100};
+constexpr milliseconds kBetweenQuestions{5'000};
+constexpr int kTooManyQuestions = 4;
 constexpr QSize kFirstSize{640, 480};
 
 }  // namespace
@@ -33,7 +37,7 @@ WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& gua
     : listener_(std::move(listener)),
       gate_(guard, {[this] { Started(); }, [this] { Stopped(); }, [this](bool succeeded) { Ended(succeeded); },
                     [this](int percent) { Progress(percent); }, [this](const QString& address) { Hovered(address); },
-                    [this] { Died(); }}),
+                    [this] { Died(); }, [this] { unanswered_ = 0; }}),
       window_(std::make_unique<QQuickWindow>(&control_)) {
   window_->setColor(Qt::transparent);
   QQmlComponent component(&engine, QUrl("qrc:/pages/View.qml"));
@@ -49,6 +53,11 @@ WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& gua
   comeBack_.setSingleShot(true);
   comeBack_.setInterval(kFirstPause);
   connect(&comeBack_, &QTimer::timeout, this, &WebPage::Reload);
+  tryAgain_.setSingleShot(true);
+  connect(&tryAgain_, &QTimer::timeout, this, &WebPage::Reload);
+  watch_.setInterval(kBetweenQuestions);
+  connect(&watch_, &QTimer::timeout, this, &WebPage::SeeWhetherItAnswers);
+  watch_.start();
   sincePainted_.start();
   window_->setGeometry(0, 0, kFirstSize.width(), kFirstSize.height());
   window_->contentItem()->setSize(kFirstSize);
@@ -74,6 +83,8 @@ void WebPage::Place(std::shared_ptr<SharedFrames> frames) {
 void WebPage::Open(const QUrl& address) {
   comeBack_.stop();
   comeBack_.setInterval(kFirstPause);
+  tryAgain_.stop();
+  pauseOfTry_ = kFirstTry;
   address_ = address;
   status_.clear();
   gate_.Open(address);
@@ -82,6 +93,7 @@ void WebPage::Open(const QUrl& address) {
 }
 
 void WebPage::Reload() {
+  tryAgain_.stop();
   sinceBack_.start();
   QMetaObject::invokeMethod(view_, "reload");
 }
@@ -130,6 +142,12 @@ void WebPage::Ended(bool succeeded) {
   begun_ = true;
   picture_ = {};
   Ask();
+  if (succeeded) {
+    pauseOfTry_ = kFirstTry;
+  } else {
+    tryAgain_.start(pauseOfTry_);
+    pauseOfTry_ = std::min(pauseOfTry_ * 2, kLongestPause);
+  }
   Tell("Done");
   if (succeeded) listener_.loaded();
 }
@@ -141,6 +159,20 @@ void WebPage::Died() {
   const milliseconds pause = livedWell ? kFirstPause : std::min(comeBack_.intervalAsDuration() * 2, kLongestPause);
   comeBack_.start(pause);
   begun_ = false;  // what it shows first is nothing
+}
+
+// A page may keep its renderer busy for ever, and each page of its server with it.
+void WebPage::SeeWhetherItAnswers() {
+  const auto renderer = view_->property("renderProcessPid").toLongLong();
+  if (address_.isEmpty() || comeBack_.isActive() || renderer <= 0) {
+    unanswered_ = 0;
+  } else if (unanswered_ < kTooManyQuestions) {
+    ++unanswered_;
+    QMetaObject::invokeMethod(view_, "ask");
+  } else if (Lives(renderer)) {
+    unanswered_ = 0;
+    kill(static_cast<pid_t>(renderer), SIGKILL);
+  }
 }
 
 void WebPage::Ask() {

@@ -19,7 +19,9 @@ class QQuickItem;
 class QQuickWebEngineProfile;
 
 // One web page, in a window that is never shown. It is painted into a picture whenever it changes, 60 times a second at
-// most. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile.
+// most. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile. A renderer that does
+// not answer for twenty seconds is taken for dead. A page that cannot be had is tried again at growing pauses too: after
+// a power cut the network may come up later than the station.
 class WebPage : public QObject {
  public:
   struct Listener {
@@ -50,6 +52,7 @@ class WebPage : public QObject {
   void Stopped();
   void Ended(bool succeeded);
   void Died();
+  void SeeWhetherItAnswers();
   void Ask();
   void Paint();
   bool Changed(const QImage& picture) const;
@@ -69,4 +72,8 @@ class WebPage : public QObject {
   QElapsedTimer sincePainted_;
   QTimer comeBack_;
   QElapsedTimer sinceBack_;
+  QTimer tryAgain_;
+  std::chrono::milliseconds pauseOfTry_{};
+  QTimer watch_;
+  int unanswered_ = 0;  // questions
 };

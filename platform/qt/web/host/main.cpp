@@ -1,4 +1,3 @@
-
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QQuickWindow>
