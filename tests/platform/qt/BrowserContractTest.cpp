@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/WebAddress.h"
+#include "tests/platform/qt/WebServer.h"
 #include "tests/platform/qt/Worlds.h"
 
 // What every page surface promises, in the virtual and the real world alike.
@@ -30,6 +31,31 @@ std::string PageOf(VirtualWorld& world, const std::string& name) {
 std::string PageOf(RealWorld&, const std::string& name) {
   return FileAddress(test_media::Text(name, "<html><body style='background:#00ff00'>page</body></html>"));
 }
+// A server that is not there at first.
+class Late {
+ public:
+  explicit Late(VirtualWorld& world) : world_(&world), address_("http://late.example/") {
+    world.pages.SetCannotBeHad(address_);
+  }
+  explicit Late(RealWorld&) : address_(server_.Address("/")) {
+    server_.Put("/", "<html><body>late</body></html>");
+    server_.Close();
+  }
+  const std::string& Address() const { return address_; }
+  void Come() {
+    if (world_ != nullptr) {
+      world_->pages.SetCanBeHad(address_);
+    } else {
+      server_.OpenAgain();
+    }
+  }
+
+ private:
+  VirtualWorld* world_ = nullptr;
+  WebServer server_;
+  std::string address_;
+};
+
 void MakeSilent(VirtualWorld& world, const std::string& address) { world.pages.SetNeverAnswers(address); }
 void MakeSilent(RealWorld&, const std::string&) {}
 
@@ -84,6 +110,16 @@ TYPED_TEST(BrowserContractTest, OfAPageThatCannotBeHadNoDocumentIsTold) {
   this->surface->Navigate(kNobody);
   ASSERT_TRUE(this->Says("Done"));
   EXPECT_EQ(this->loads, 0);
+}
+
+TYPED_TEST(BrowserContractTest, APageThatCannotBeHadIsTriedAgainUntilItIsThere) {
+  Late late(this->world);
+  this->surface->Navigate(late.Address());
+  ASSERT_TRUE(this->Says("Done"));
+  ASSERT_TRUE(this->world.Until([&] { return std::ranges::count(this->told, "Loading..") == 2; }));
+  EXPECT_EQ(this->loads, 0);
+  late.Come();
+  EXPECT_TRUE(this->Loads(1));
 }
 
 TYPED_TEST(BrowserContractTest, APageThatNeverAnswersGoesOnLoadingUntilAnotherIsOpened) {

@@ -20,8 +20,8 @@ class QQuickWebEngineProfile;
 
 // One web page, in a window that is never shown. It is painted into a picture whenever it changes, 60 times a second at
 // most. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile. A renderer that does
-// not answer for twenty seconds is taken for dead. A page that cannot be had is tried again at growing pauses too: after
-// a power cut the network may come up later than the station.
+// not answer for twenty seconds is taken for dead. A page that cannot be had is tried again at growing pauses too:
+// after a power cut the network may come up later than the station.
 class WebPage : public QObject {
  public:
   struct Listener {
