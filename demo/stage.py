@@ -202,7 +202,7 @@ def main():
     write_ini(station / "rss.ini", {str(row): {"Text": text, "Active": "1"} for row, text in enumerate(HEADLINES, 1)})
     write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))
     # A running program's file cannot be written over, but it can be replaced.
-    for name in ("corvanta", "corvanta-movies"):
+    for name in ("corvanta", "corvanta-movies", "corvanta-pages"):
         renewed = station / f"{name}.new"
         shutil.copy2(program.with_name(name), renewed)
         renewed.replace(station / name)

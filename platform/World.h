@@ -1,5 +1,6 @@
 #pragma once
 
+class BrowserEngine;
 class Clock;
 class Desktop;
 class Dialogs;
@@ -19,6 +20,7 @@ struct World {
   Files& files;
   MediaEngine& media;
   FlashEngine& flash;
+  BrowserEngine& browser;
   Pictures& pictures;
   Windows& windows;
   Dialogs& dialogs;

@@ -26,6 +26,7 @@
 #include "platform/qt/scene/OnAirWindow.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/scene/Scene.h"
+#include "platform/qt/web/QtBrowser.h"
 
 namespace {
 
@@ -56,6 +57,7 @@ struct QtWorld::Parts {
   QtPictures pictures;
   PictureLoader loader;
   QtFlash flash{loader, folder + "/corvanta-movies"};
+  QtBrowser browser{folder + "/corvanta-pages", folder + "/.web"};
   Scene scene{scheduler, loader};
   QtWindows windows;
   QtDialogs dialogs;
@@ -72,9 +74,9 @@ std::unique_ptr<QtWorld::Parts> QtWorld::MakeParts() {
 }
 
 QtWorld::QtWorld()
-    : parts_(MakeParts()), world{parts_->clock,   parts_->scheduler, parts_->files,   parts_->media,
-                                 parts_->flash,   parts_->pictures,  parts_->windows, parts_->dialogs,
-                                 parts_->desktop, parts_->monitors,  parts_->network} {}
+    : parts_(MakeParts()), world{parts_->clock,   parts_->scheduler, parts_->files,    parts_->media,
+                                 parts_->flash,   parts_->browser,   parts_->pictures, parts_->windows,
+                                 parts_->dialogs, parts_->desktop,   parts_->monitors, parts_->network} {}
 
 QtWorld::~QtWorld() = default;
 

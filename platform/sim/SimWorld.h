@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/World.h"
+#include "platform/sim/SimBrowser.h"
 #include "platform/sim/SimFiles.h"
 #include "platform/sim/SimFlash.h"
 #include "platform/sim/SimMedia.h"
@@ -17,6 +18,7 @@ struct SimWorld {
   SimFiles files;
   SimMedia media{time, files, trace};
   SimFlash flash{time, files, trace};
+  SimBrowser browser{time, trace};
   SimPictures pictures{files};
   SimWindows windows{trace, time, pictures};
   SimDialogs dialogs{trace, time, files};
@@ -24,5 +26,5 @@ struct SimWorld {
   SimMonitors monitors;
   SimNetwork network{trace};
 
-  World world{time, time, files, media, flash, pictures, windows, dialogs, desktop, monitors, network};
+  World world{time, time, files, media, flash, browser, pictures, windows, dialogs, desktop, monitors, network};
 };

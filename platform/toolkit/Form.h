@@ -102,8 +102,9 @@ class Form {
 
   // Of an on-air form: what stands behind its controls.
   Property<Colour> BackColor{kBlack};
-  // Bits, as the window system counts them. With kLayered what lies behind an on-air form is seen where its controls
-  // leave it bare or their pictures are see-through, and through every pixel of a still picture that has KeyColour.
+  // Bits, as the window system counts them. With kLayered what lies behind an on-air form without panes is seen where
+  // its controls leave it bare or their pictures are see-through, and through every pixel of a still picture that has
+  // KeyColour.
   Property<std::int32_t> ExtendedStyle{0};
   Property<std::optional<Colour>> KeyColour;
   // KeyColour as far as it is in force; nothing where the form is opaque.

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 
 #include "platform/qt/forms/BindLists.h"
+#include "platform/qt/forms/BindPage.h"
 #include "platform/qt/forms/BindPictures.h"
 #include "platform/qt/forms/BindPlain.h"
 #include "platform/qt/forms/BindStatusBar.h"
@@ -36,6 +37,7 @@ constexpr Binding kBindings[] = {
     Row<ColourPanel, QFrame>("ColourPanel"),
     Row<PictureBox, QFrame>("PictureBox"),
     Row<FlashBox, QFrame>("FlashBox"),
+    Row<BrowserControl, QFrame>("BrowserControl"),
     Row<StatusBar, QStatusBar>("StatusBar"),
     Row<PlayerControl, QWidget>("PlayerControl"),
     Row<FileListBox, NameView>("FileListBox"),

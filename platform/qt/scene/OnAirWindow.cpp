@@ -18,6 +18,7 @@
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/SceneItems.h"
 #include "platform/qt/scene/Sheet.h"
+#include "platform/toolkit/BrowserControl.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 
@@ -64,6 +65,13 @@ bool MayBeSeeThrough(const Form& form) {
   return form.Type() != Form::Kind::kPreview && std::ranges::none_of(form.Controls(), isPane);
 }
 
+// Nobody types into a window on the air, but into a page on it.
+bool MayBeTypedInto(const std::vector<Control*>& controls) {
+  return std::ranges::any_of(controls, [](const Control* control) {
+    return dynamic_cast<const BrowserControl*>(control) != nullptr || MayBeTypedInto(control->Children());
+  });
+}
+
 bool MeetsNoScreen(const QRect& place) {
   return std::ranges::none_of(QGuiApplication::screens(),
                               [&](const QScreen* screen) { return screen->geometry().intersects(place); });
@@ -76,8 +84,10 @@ bool MeetsNoScreen(const QRect& place) {
 OnAirWindow::OnAirWindow(Form& form, Scene& scene)
     : form_(form), scene_(scene), window_(new QQuickWindow), hasAlpha_(MayBeSeeThrough(form)) {
   KeepAlpha();
-  // Nobody types into a window on the air.
-  window_->setFlags(HasFrame() ? Qt::Window : Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+  Qt::WindowFlags flags = Qt::Window;
+  flags.setFlag(Qt::FramelessWindowHint, !HasFrame());
+  flags.setFlag(Qt::WindowDoesNotAcceptFocus, !HasFrame() && !MayBeTypedInto(form.Controls()));
+  window_->setFlags(flags);
   window_->setProperty("_q_showWithoutActivating", true);
   window_->installEventFilter(this);
   new FormItem(
@@ -169,7 +179,7 @@ void OnAirWindow::ApplyVisible() {
   FollowScreen();
 }
 
-bool OnAirWindow::IsSeeThrough() const { return (form_.ExtendedStyle & kLayered) != 0; }
+bool OnAirWindow::IsSeeThrough() const { return hasAlpha_ && (form_.ExtendedStyle & kLayered) != 0; }
 
 void OnAirWindow::ApplyStyle() {
   const Colour back = form_.BackColor;

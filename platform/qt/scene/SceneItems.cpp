@@ -1,8 +1,10 @@
 #include "platform/qt/scene/SceneItems.h"
 
 #include "platform/qt/scene/FrameItem.h"
+#include "platform/qt/scene/PageItem.h"
 #include "platform/qt/scene/PaneItem.h"
 #include "platform/qt/scene/TextItem.h"
+#include "platform/toolkit/BrowserControl.h"
 #include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/PlayerControl.h"
 
@@ -16,9 +18,8 @@ constexpr SceneItem Row(std::string_view kind) {
 }
 
 constexpr SceneItem kSceneItems[] = {
-    Row<PictureBox, PaneItem>("PictureBox"),
-    Row<PaneText, TextItem>("PaneText"),
-    Row<FlashBox, FlashItem>("FlashBox"),
+    Row<PictureBox, PaneItem>("PictureBox"),        Row<PaneText, TextItem>("PaneText"),
+    Row<FlashBox, FlashItem>("FlashBox"),           Row<BrowserControl, PageItem>("BrowserControl"),
     Row<PlayerControl, MediaItem>("PlayerControl"),
 };
 

@@ -10,7 +10,7 @@ from .patience import until
 from .reader import Reader
 
 PROGRAM = media.ROOT / "build" / "release" / "app" / "corvanta"
-MOVIES = PROGRAM.with_name("corvanta-movies")
+BESIDE = [PROGRAM.with_name(name) for name in ("corvanta-movies", "corvanta-pages")]
 TWIPS = 15
 
 
@@ -29,7 +29,8 @@ class Station:
         self.folder.mkdir(parents=True)
         # The program finds its folder by its own file, so a link would lead it astray.
         shutil.copy2(PROGRAM, self.program)
-        shutil.copy2(MOVIES, self.folder)
+        for beside in BESIDE:
+            shutil.copy2(beside, self.folder)
         self._sections = {
             "Settings": {"ShowMouse": "1", "ShowTaskbar": "1", "StartUp": "0", "Ext": "*.mp4;*.png;*.wav"},
             "Output": {"Show": "True"},

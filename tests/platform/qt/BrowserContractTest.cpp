@@ -25,7 +25,7 @@ class Silent {
 };
 
 std::string PageOf(VirtualWorld& world, const std::string& name) {
-  world.pages.SetCannotBeHad(kNobody);
+  world.sim.browser.SetCannotBeHad(kNobody);
   return FileAddress("/" + name);
 }
 std::string PageOf(RealWorld&, const std::string& name) {
@@ -35,7 +35,7 @@ std::string PageOf(RealWorld&, const std::string& name) {
 class Late {
  public:
   explicit Late(VirtualWorld& world) : world_(&world), address_("http://late.example/") {
-    world.pages.SetCannotBeHad(address_);
+    world.sim.browser.SetCannotBeHad(address_);
   }
   explicit Late(RealWorld&) : address_(server_.Address("/")) {
     server_.Put("/", "<html><body>late</body></html>");
@@ -44,7 +44,7 @@ class Late {
   const std::string& Address() const { return address_; }
   void Come() {
     if (world_ != nullptr) {
-      world_->pages.SetCanBeHad(address_);
+      world_->sim.browser.SetCanBeHad(address_);
     } else {
       server_.OpenAgain();
     }
@@ -56,7 +56,7 @@ class Late {
   std::string address_;
 };
 
-void MakeSilent(VirtualWorld& world, const std::string& address) { world.pages.SetNeverAnswers(address); }
+void MakeSilent(VirtualWorld& world, const std::string& address) { world.sim.browser.SetNeverAnswers(address); }
 void MakeSilent(RealWorld&, const std::string&) {}
 
 template <typename AnyWorld>
@@ -76,7 +76,7 @@ class BrowserContractTest : public testing::Test, public BrowserListener {
   AnyWorld world;
   std::vector<std::string> told;
   int loads = 0;
-  std::unique_ptr<BrowserSurface> surface = world.browser.NewSurface("surface", *this);
+  std::unique_ptr<BrowserSurface> surface = world.world.browser.NewSurface("surface", *this);
 };
 
 TYPED_TEST_SUITE(BrowserContractTest, Worlds);
@@ -149,7 +149,7 @@ TYPED_TEST(BrowserContractTest, AListenerMayOpenTheNextPageOrEndTheSurface) {
     int rounds = 0;
   } listener;
   listener.address = this->Page("next.html");
-  listener.surface = this->world.browser.NewSurface("chained", listener);
+  listener.surface = this->world.world.browser.NewSurface("chained", listener);
   listener.surface->Navigate(listener.address);
   EXPECT_TRUE(this->world.Until([&] { return listener.rounds == 3; }));
   this->world.Pass(300ms);

@@ -79,5 +79,5 @@ class WebPageTest : public testing::Test {
 
   RealWorld world;
   WebServer server;
-  SeenPage seen{world.browser};
+  SeenPage seen{world.world.browser};
 };

@@ -56,7 +56,7 @@ TEST_F(WebSafetyTest, APageThatLoadsForEverIsSeenAsFarAsItHasComeAndAnotherFollo
 }
 
 TEST_F(WebSafetyTest, APageThatIsNeverIdleHoldsNothingUpAndIsLoadedAgain) {
-  SeenPage other(world.browser);
+  SeenPage other(world.world.browser);
   ASSERT_TRUE(IsGoodOnNet("good(); setTimeout(() => { for (;;); }, 200)"));
   ASSERT_TRUE(::Until([&] { return seen.loads == 1; }));
   other.surface->Navigate(FileAddress(File("site/page.html", kGood)));
@@ -167,7 +167,7 @@ TEST_F(WebSafetyTest, AProfileFullOfRubbishIsNoHindrance) {
     ++spoilt;
   }
   EXPECT_GT(spoilt, 3);
-  seen.Renew(world.browser);
+  seen.Renew(world.world.browser);
   EXPECT_TRUE(visit());
 }
 

@@ -15,7 +15,6 @@
 #include "platform/qt/media/MpvEngine.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/web/QtBrowser.h"
-#include "platform/sim/SimBrowser.h"
 #include "platform/sim/SimWorld.h"
 #include "tests/platform/qt/TestMedia.h"
 #include "tests/platform/swf/MovieWriter.h"
@@ -50,8 +49,6 @@ class VirtualWorld {
   static std::string Absent() { return "/absent.mp4"; }
 
   SimWorld sim;
-  SimBrowser pages{sim.time, sim.trace};
-  BrowserEngine& browser = pages;
   Scheduler& scheduler = sim.time;
   MediaEngine& media = sim.media;
   World& world = sim.world;
@@ -85,12 +82,11 @@ class RealWorld {
   SimWorld rest_;
 
  public:
-  BrowserEngine& browser = browser_;
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
   // Time, disk, media and pictures are real.
-  World world{clock_,        scheduler_,    files_,        media_,         flash_,       pictures_,
-              rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors, rest_.network};
+  World world{clock_,    scheduler_,    files_,        media_,        flash_,         browser_,
+              pictures_, rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors, rest_.network};
 };
 
 using Worlds = testing::Types<VirtualWorld, RealWorld>;
