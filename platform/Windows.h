@@ -25,6 +25,9 @@ class FormWindow {
   virtual void DragPane(Control& pane, std::function<void()> done) = 0;
   // Follows the pointer, until the button is released: `moved` is told how far it is from where the button went down.
   virtual void FollowPointer(std::function<void(Twips right, Twips down)> moved) = 0;
+  // Puts the pointer at a place on the form, counted from its left top corner; what FollowPointer tells from now on is
+  // counted from there.
+  virtual void PutPointer(Twips right, Twips down) = 0;
   // Opens a menu of the form at the pointer, and returns at once.
   virtual void PopUp(const MenuItem& menu) = 0;
 };

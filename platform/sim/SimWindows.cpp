@@ -42,6 +42,7 @@ class SimWindow : public FormWindow {
     windows_.dragDone_ = std::move(done);
   }
   void FollowPointer(std::function<void(Twips, Twips)> moved) override { windows_.dragMoved_ = std::move(moved); }
+  void PutPointer(Twips right, Twips down) override { windows_.pointerPut = {form_.Left + right, form_.Top + down}; }
   void PopUp(const MenuItem& menu) override {
     Tell("opens " + menu.Name());
     windows_.popUp = form_.Name() + "." + menu.Name();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Windows.h"
@@ -29,6 +31,8 @@ class SimWindows : public Windows {
   // Lets go of the button of the drag that is under way.
   void EndDrag();
 
+  // Where on the screen the pointer was put last.
+  std::optional<std::pair<Twips, Twips>> pointerPut;
   PixelSize screenSize{1920, 1080};
   // The control that was given the keyboard last, as "form.control".
   std::string focus;

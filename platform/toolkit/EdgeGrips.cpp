@@ -29,26 +29,46 @@ void EdgeGrips::Move(const MousePlace& place) {
 void EdgeGrips::Press(const MousePlace& place) {
   if (!place.Down(MouseButton::kLeft) || form_.Window() == nullptr) return;
   const Grips grips = At(place);
-  if (!grips.Any()) form_.Pointer = MousePointer::kMove;
-  const auto pull = [&form = form_, grips, left = form_.Left.Get(), top = form_.Top.Get(), width = form_.Width.Get(),
-                     height = form_.Height.Get()](Twips right, Twips down) {
+  const MousePlace start = PutOnto(grips, place);
+  if (!grips.Any()) {
+    form_.Pointer = MousePointer::kMove;
+    form_.Window()->FollowPointer(
+        [&form = form_, left = form_.Left.Get(), top = form_.Top.Get()](Twips right, Twips down) {
+          form.Left = left + right;
+          form.Top = top + down;
+        });
+    return;
+  }
+  const auto pull = [&form = form_, grips, startX = form_.Left + start.x, startY = form_.Top + start.y,
+                     width = form_.Width.Get(), height = form_.Height.Get()](Twips right, Twips down) {
     constexpr Twips kLeast = 2 * kEdge;
-    if (!grips.Any()) {
-      form.Left = left + right;
-      form.Top = top + down;
-    }
+    const Twips x = startX + right;
+    const Twips y = startY + down;
     if (grips.left && width - right > kLeast) {
-      form.Left = left + right;
+      form.Left = x;
       form.Width = width - right;
     }
     if (grips.top && height - down > kLeast) {
-      form.Top = top + down;
+      form.Top = y;
       form.Height = height - down;
     }
-    const Twips rightEdge = left + width + right;
-    const Twips bottomEdge = top + height + down;
-    if (grips.right && rightEdge - form.Left > kLeast) form.Width = rightEdge - form.Left;
-    if (grips.bottom && bottomEdge - form.Top > kLeast) form.Height = bottomEdge - form.Top;
+    if (grips.right && x - form.Left > kLeast) form.Width = x - form.Left;
+    if (grips.bottom && y - form.Top > kLeast) form.Height = y - form.Top;
   };
   form_.Window()->FollowPointer(pull);
+}
+
+// One edge after the other, each time beside the place of the press: in a corner the pointer stands on the last one
+// alone, and the other edge comes to it with the first move. Meant so.
+MousePlace EdgeGrips::PutOnto(const Grips& grips, const MousePlace& place) {
+  MousePlace now = place;
+  const auto put = [&](Twips x, Twips y) {
+    now = {x, y, place.buttons};
+    form_.Window()->PutPointer(x, y);
+  };
+  if (grips.left) put(0, place.y);
+  if (grips.top) put(place.x, 0);
+  if (grips.right) put(form_.Width, place.y);
+  if (grips.bottom) put(place.x, form_.Height);
+  return now;
 }

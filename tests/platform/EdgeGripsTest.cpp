@@ -72,9 +72,29 @@ TEST_F(EdgeGripsTest, AnEdgePullsItsOwnSideAlone) {
 
 TEST_F(EdgeGripsTest, ACornerPullsBothItsEdges) {
   Pull(2990, 1490, 150, 300);
-  EXPECT_EQ(Rect(), (Place{1000, 2000, 3150, 1800}));
+  EXPECT_EQ(Rect(), (Place{1000, 2000, 2990 + 150, 1500 + 300})) << "the edge beside the pointer comes to it";
   Pull(10, 10, 150, 300);
-  EXPECT_EQ(Rect(), (Place{1150, 2300, 3000, 1500}));
+  EXPECT_EQ(Rect(), (Place{1000 + 10 + 150, 2000 + 300, 3140 - 150, 1800 - 300}));
+}
+
+TEST_F(EdgeGripsTest, ThePointerIsPutOntoTheEdgeThatItPulls) {
+  const auto putBy = [&](Twips x, Twips y) {
+    sim.windows.pointerPut.reset();
+    Pull(x, y, 0, 0);
+    return sim.windows.pointerPut;
+  };
+  EXPECT_EQ(putBy(30, 700), std::pair(1000.0, 2700.0));
+  EXPECT_EQ(putBy(700, 30), std::pair(1700.0, 2000.0));
+  EXPECT_EQ(putBy(2950, 700), std::pair(4000.0, 2700.0));
+  EXPECT_EQ(putBy(700, 1450), std::pair(1700.0, 3500.0));
+  EXPECT_EQ(putBy(700, 700), std::nullopt) << "inside it stays where it is";
+}
+
+TEST_F(EdgeGripsTest, InACornerThePointerIsPutOntoTheLastOfBothEdgesAlone) {
+  Pull(2950, 30, 0, 0);
+  EXPECT_EQ(sim.windows.pointerPut, std::pair(4000.0, 2030.0));
+  Pull(30, 1450, 0, 0);
+  EXPECT_EQ(sim.windows.pointerPut, std::pair(1030.0, 2030.0 + 1500.0));
 }
 
 TEST_F(EdgeGripsTest, AFormShrinksToJustOverTenPixelsAndNoFurther) {

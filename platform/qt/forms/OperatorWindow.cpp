@@ -1,5 +1,6 @@
 #include "platform/qt/forms/OperatorWindow.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
@@ -193,6 +194,10 @@ void OperatorWindow::DragWindow(std::function<void()> done) {
   new PointerDrag(
       Widget(), [window = &Widget(), from](QPoint moved) { window->move(from + moved); },
       joint_.WhileHere(std::move(done)));
+}
+
+void OperatorWindow::PutPointer(Twips right, Twips down) {
+  QCursor::setPos(Widget().mapToGlobal(QPoint(ToPixels(right), ToPixels(down))));
 }
 
 void OperatorWindow::FollowPointer(std::function<void(Twips right, Twips down)> moved) {

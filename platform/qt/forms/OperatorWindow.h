@@ -25,6 +25,7 @@ class OperatorWindow : public FormWindow {
   // The layout places what is in an operator's window: nothing moves.
   void DragPane(Control& pane, std::function<void()> done) override;
   void FollowPointer(std::function<void(Twips right, Twips down)> moved) override;
+  void PutPointer(Twips right, Twips down) override;
   void PopUp(const MenuItem& menu) override;
 
   QWidget& Widget() const { return joint_.Window(); }

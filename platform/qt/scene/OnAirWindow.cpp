@@ -1,5 +1,6 @@
 #include "platform/qt/scene/OnAirWindow.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -276,6 +277,11 @@ void OnAirWindow::DragPane(Control& pane, std::function<void()> done) {
 void OnAirWindow::FollowPointer(std::function<void(Twips right, Twips down)> moved) {
   drag_ = {pressedAt_,
            [moved = std::move(moved)](QPoint by) { moved(by.x() * kTwipsPerPixel, by.y() * kTwipsPerPixel); }, [] {}};
+}
+
+void OnAirWindow::PutPointer(Twips right, Twips down) {
+  pressedAt_ = window_->mapToGlobal(QPoint(ToPixels(right), ToPixels(down)));
+  QCursor::setPos(pressedAt_);
 }
 
 void OnAirWindow::EndDrag() {

@@ -31,6 +31,7 @@ class OnAirWindow : public QObject, public FormWindow {
   void DragWindow(std::function<void()> done) override;
   void DragPane(Control& pane, std::function<void()> done) override;
   void FollowPointer(std::function<void(Twips right, Twips down)> moved) override;
+  void PutPointer(Twips right, Twips down) override;
   void PopUp(const MenuItem&) override {}  // no menu stands on the air
 
   // For those that look at pixels.

@@ -4,6 +4,7 @@
 #include <QTest>
 #include <algorithm>
 
+#include "platform/Windows.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/XWindows.h"
 #include "platform/qt/scene/OnAirWindow.h"
@@ -36,6 +37,11 @@ class VirtualScreen {
  public:
   std::vector<std::string> Stack() const { return sim_.windows.Stack(); }
   static bool Until(const std::function<bool()>& condition) { return condition(); }
+  // In pixels.
+  std::pair<int, int> Pointer() const {
+    const auto [x, y] = sim_.windows.pointerPut.value_or(std::pair(0.0, 0.0));
+    return {ToPixels(x), ToPixels(y)};
+  }
   static void ResizeFromOutside(Form& form, int width) { form.Width = ToTwips(width); }
 
  private:
@@ -62,6 +68,13 @@ class RealScreen : public Windows {
     return names;
   }
   static bool Until(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 10'000); }
+  std::pair<int, int> Pointer() const {
+    Window root = 0, child = 0;
+    int x = 0, y = 0, inX = 0, inY = 0;
+    unsigned mask = 0;
+    XQueryPointer(other_, DefaultRootWindow(other_), &root, &child, &x, &y, &inX, &inY, &mask);
+    return {x, y};
+  }
   // Another program does it, once the window has the size that the form says: there is no window manager here.
   void ResizeFromOutside(Form& form, int width) const {
     const Window window = Find(form.Name());
@@ -152,6 +165,18 @@ TYPED_TEST(WindowsContractTest, AHiddenWindowThatIsToldToBeOnTopStaysHidden) {
   this->one.OnTop = true;
   this->two.Show();
   EXPECT_TRUE(this->Stands({"frmTwo"}));
+}
+
+TYPED_TEST(WindowsContractTest, ThePointerIsPutWhereTheFormSays) {
+  this->one.Left = 3000;
+  this->one.Top = 4500;
+  this->one.Show();
+  ASSERT_TRUE(this->Stands({"frmOne"}));
+  for (const auto& [right, down] : {std::pair(0, 0), std::pair(1500, 750), std::pair(-300, 1500)}) {
+    this->one.Window()->PutPointer(right, down);
+    const std::pair wanted(200 + right / 15, 300 + down / 15);
+    EXPECT_TRUE(this->screen.Until([&] { return this->screen.Pointer() == wanted; }));
+  }
 }
 
 TYPED_TEST(WindowsContractTest, TheFormIsToldWhenItComesOnTheScreenAndOfEachChangeOfItsSize) {
