@@ -30,6 +30,8 @@ class PictureBox : public Control {
 
   Property<LoadedPicture> Picture;
   Property<Colour> BackColor{kBlack};
+  // Nothing of its own stands behind what it holds.
+  Property<bool> SeeThrough{false};
   Event<> FellBack;
 
  private:

@@ -200,14 +200,16 @@ void OnAirWindow::ComeForward() {
   if (sheet_) sheet_->ComeForward();
 }
 
-// A player behind an online channel plays on for hours: its picture need not be made meanwhile. Every pane is opaque.
+// A player behind an online channel plays on for hours: its picture need not be made meanwhile. Every pane that is not
+// see-through is opaque.
 void OnAirWindow::FindCovered() {
   QRegion front;
   for (ControlItem* pane : panes_) {
     if (!pane->isVisible()) continue;
     const QRect place = QRectF(pane->position(), pane->size()).toRect();
     pane->SetCovered(QRegion(place).subtracted(front).isEmpty());
-    if (dynamic_cast<PaneItem*>(pane) != nullptr) front += place;
+    if (const auto* opaque = dynamic_cast<PaneItem*>(pane); opaque != nullptr && !opaque->IsSeeThrough())
+      front += place;
   }
 }
 

@@ -5,17 +5,22 @@
 
 namespace {
 
-QColor ToColour(const Colour& colour) { return {colour.red, colour.green, colour.blue}; }
+QColor ColourOf(const PictureBox& pane) {
+  const Colour colour = pane.BackColor;
+  return pane.SeeThrough ? QColor(Qt::transparent) : QColor(colour.red, colour.green, colour.blue);
+}
 
 }  // namespace
 
 PaneItem::PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene)
-    : ControlItem(pane, parent), pane_(&pane), scene_(scene), colour_(ToColour(pane.BackColor)) {
+    : ControlItem(pane, parent), pane_(&pane), scene_(scene), colour_(ColourOf(pane)) {
   setClip(true);
-  Follow(pane.BackColor, [this] {
-    colour_ = ToColour(pane_->BackColor);
+  const auto paint = [this] {
+    colour_ = ColourOf(*pane_);
     update();
-  });
+  };
+  Follow(pane.BackColor, paint);
+  Follow(pane.SeeThrough, paint);
   Follow(pane.Picture, [this] { LoadPicture(); });
   if (!pane.Picture.Get().path.empty()) LoadPicture();
 }

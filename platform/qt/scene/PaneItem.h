@@ -10,6 +10,7 @@ class PaneItem : public ControlItem {
   PaneItem(PictureBox& pane, QQuickItem& parent, Scene& scene);
 
   void Detach() override;
+  bool IsSeeThrough() const { return colour_.alpha() == 0; }
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;
