@@ -6,9 +6,9 @@
 
 #include "platform/toolkit/Form.h"
 
-// The button, as forms know it, when the event is the press of one.
-inline std::optional<MouseButton> Pressed(const QEvent& event) {
-  if (event.type() != QEvent::MouseButtonPress) return {};
+// The button, as forms know it, when the event is of that type.
+inline std::optional<MouseButton> ButtonOf(const QEvent& event, QEvent::Type type) {
+  if (event.type() != type) return {};
   switch (static_cast<const QMouseEvent&>(event).button()) {
     case Qt::LeftButton:
       return MouseButton::kLeft;
@@ -20,6 +20,9 @@ inline std::optional<MouseButton> Pressed(const QEvent& event) {
       return {};
   }
 }
+
+inline std::optional<MouseButton> Pressed(const QEvent& event) { return ButtonOf(event, QEvent::MouseButtonPress); }
+inline std::optional<MouseButton> Released(const QEvent& event) { return ButtonOf(event, QEvent::MouseButtonRelease); }
 
 // Where on a form the pointer is. Qt's buttons bear the numbers of the forms' own.
 inline MousePlace PlaceOn(QPointF pixels, Qt::MouseButtons buttons) {

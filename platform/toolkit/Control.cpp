@@ -20,3 +20,7 @@ void Control::SetFocus() { Owner().Focus(*this); }
 void Control::PressMouse(MouseButton button) {
   Handle("MouseDown", [this, button] { MouseDown.Raise(button); });
 }
+
+void Control::ReleaseMouse(MouseButton button) {
+  Handle("MouseUp", [this, button] { MouseUp.Raise(button); });
+}

@@ -26,8 +26,9 @@ class Control : public Component {
 
   // Gives it the keyboard inside its window.
   void SetFocus();
-  // What the window tells when the operator presses a mouse button on it.
+  // What the window tells when the operator presses a mouse button on it, and when he lets go of it, wherever that is.
   void PressMouse(MouseButton button);
+  void ReleaseMouse(MouseButton button);
 
   Property<bool> Visible{true};
   Property<bool> Enabled{true};
@@ -38,6 +39,7 @@ class Control : public Component {
   Property<Twips> Height;
 
   Event<MouseButton> MouseDown;
+  Event<MouseButton> MouseUp;
 
  private:
   Control* container_ = nullptr;

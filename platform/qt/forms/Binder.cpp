@@ -90,6 +90,7 @@ void Binder::BindCommon(Control& control, QWidget& widget) {
   joint_.Watch(control.Visible.Changed, [&control, &widget] { widget.setVisible(control.Visible); });
   joint_.OnEvents(&Ground(widget), [&control](QEvent& event) {
     if (const auto button = Pressed(event)) control.PressMouse(*button);
+    if (const auto button = Released(event)) control.ReleaseMouse(*button);
     return false;
   });
 }
