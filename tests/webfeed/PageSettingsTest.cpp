@@ -1,0 +1,359 @@
+#include <functional>
+
+#include "tests/webfeed/WebFeedTest.h"
+#include "webfeed/mdlPageTransparent.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class PageSettingsTest : public WebFeedTest {
+ protected:
+  Names Listed() {
+    Names names;
+    for (int i = 0; i < Desk().listPage.ListCount(); ++i) names.push_back(Desk().listPage.List(i));
+    return names;
+  }
+  void Pick(const std::string& name) {
+    const Names names = Listed();
+    const auto found = std::ranges::find(names, name);
+    ASSERT_NE(found, names.end()) << name;
+    Desk().listPage.Pick(static_cast<int>(found - names.begin()));
+  }
+  // The operator presses the button with the mouse for that long.
+  void Hold(CommandButton& button, std::chrono::milliseconds time) {
+    button.PressMouse(MouseButton::kLeft);
+    Advance(time);
+    button.ReleaseMouse(MouseButton::kLeft);
+    button.Press();
+  }
+  int Reloads() {
+    const Names lines = sim.trace.Take();
+    return static_cast<int>(std::ranges::count(lines, "FrmWeb.Web reload"));
+  }
+  std::string LastBox() {
+    std::string last;
+    for (const std::string& line : sim.trace.Take()) {
+      if (line.starts_with("box ")) last = line;
+    }
+    return last;
+  }
+};
+
+TEST_F(PageSettingsTest, ThePagesStandInTheOrderOfTheFileAndTheStartUpPageIsTold) {
+  Store("news");
+  Store("board");
+  SetStartUpPage("board");
+  EXPECT_EQ(Listed(), (Names{"news", "board"}));
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: board");
+}
+
+TEST_F(PageSettingsTest, WithoutAnyFileThereIsNoPageAndAnEmptyTransparencyShowsAsTen) {
+  EXPECT_EQ(Listed(), Names{});
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: ");
+  EXPECT_EQ(Desk().scrlTrans.Value, 10);
+  EXPECT_EQ(Desk().txtTrans.Text.Get(), "10");
+  EXPECT_EQ(Desk().cmbMin.Text.Get(), "");
+  EXPECT_FALSE(Desk().Timer5.Enabled);
+  EXPECT_FALSE(Desk().cmbMin.Enabled);
+  EXPECT_EQ(Option("Display", "Trans"), "(none)") << "it writes nothing";
+}
+
+TEST_F(PageSettingsTest, TheOptionsComeFromTheirFileAndRunNoHandlers) {
+  SetOption("Display", "OnTop", "1");
+  SetOption("Display", "Trans", "120");
+  SetOption("Settings", "Refresh", "1");
+  SetOption("Settings", "Min", "5 Min");
+  frmPageSettings& desk = Desk();
+  EXPECT_EQ(desk.chkOntop.Value, 1);
+  EXPECT_EQ(desk.scrlTrans.Value, 120);
+  EXPECT_EQ(desk.txtTrans.Text.Get(), "120");
+  EXPECT_EQ(desk.cmbMin.Text.Get(), "5 Min");
+  EXPECT_EQ(desk.RefreshSeconds, 300);
+  EXPECT_TRUE(desk.Timer5.Enabled);
+  EXPECT_TRUE(desk.cmbMin.Enabled);
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>());
+}
+
+TEST_F(PageSettingsTest, ThereAreAHundredAndTwentyPeriodsAndTheLastIsTwoHours) {
+  frmPageSettings& desk = Desk();
+  ASSERT_EQ(desk.cmbMin.ListCount(), 120);
+  EXPECT_EQ(desk.cmbMin.List(0), "1 Min");
+  desk.cmbMin.Pick(119);
+  EXPECT_EQ(desk.cmbMin.Text.Get(), "120 Min");
+  EXPECT_EQ(desk.RefreshSeconds, 7200);
+}
+
+TEST_F(PageSettingsTest, AClickShowsTheAddress) {
+  Store("news");
+  Pick("news");
+  EXPECT_EQ(Desk().txtURL.Text.Get(), "news.example");
+}
+
+TEST_F(PageSettingsTest, ADoubleClickAndThePreviewButtonOpenThePageInThePreview) {
+  Store("news");
+  Store("board");
+  Desk();
+  SimPage& preview = *sim.browser.Find("frmPageSettings.WebPre");
+  Pick("news");
+  Desk().listPage.DoubleClick();
+  EXPECT_EQ(preview.Address(), "http://news.example");
+  Pick("board");
+  Desk().vkCommand4.Press();
+  EXPECT_EQ(preview.Address(), "http://board.example");
+  EXPECT_TRUE(Desk().WebPre.Silent);
+  EXPECT_FALSE(preview.Looks().sound);
+  Advance(1s);
+  EXPECT_EQ(Desk().lblUrlPre.Caption.Get(), "Done");
+}
+
+TEST_F(PageSettingsTest, ThePreviewReadsTheFileThatIsMeantJustNow) {
+  Store("news");
+  Pick("news");
+  Desk().chkOntop.Toggle();  // which points the shared file elsewhere
+  Desk().vkCommand4.Press();
+  EXPECT_EQ(sim.browser.Find("frmPageSettings.WebPre")->Address(), "");
+}
+
+TEST_F(PageSettingsTest, ANewPageHasTheScreensSizeAndTheWindowsPlace) {
+  Feed().Top = 150;
+  Feed().Left = 300;
+  sim.dialogs.inputs = {"news", "news.example"};
+  Desk().btnAdd.Press();
+  EXPECT_EQ(Listed(), Names{"news"});
+  EXPECT_EQ(PageKey("news", "URL"), "news.example");
+  EXPECT_EQ(PageKey("news", "FrmHeight"), "16200");
+  EXPECT_EQ(PageKey("news", "FrmWidth"), "28800");
+  EXPECT_EQ(PageKey("news", "FrmTop"), "150");
+  EXPECT_EQ(PageKey("news", "FrmLeft"), "300");
+  EXPECT_EQ(PageKey("news", "PageTop"), "0");
+}
+
+TEST_F(PageSettingsTest, AddingAPageWithTheFeedClosedOpensItHiddenAndEveryKeyGoesToThePages) {
+  sim.dialogs.inputs = {"news", "news.example"};
+  Desk().btnAdd.Press();
+  ASSERT_TRUE(station.forms.Loaded<FrmWeb>());
+  EXPECT_FALSE(Feed().Visible);
+  EXPECT_EQ(PageKey("news", "FrmLeft"), "3000");
+  EXPECT_EQ(Option("news", "FrmLeft"), "(none)");
+  EXPECT_EQ(Listed(), Names{"news"});
+}
+
+TEST_F(PageSettingsTest, ACancelledAdditionAddsAPageWithoutAName) {
+  Desk().btnAdd.Press();
+  EXPECT_EQ(Listed(), Names{""});
+}
+
+TEST_F(PageSettingsTest, AnAddedPageIsTheOneThatLoadOpens) {
+  sim.dialogs.inputs = {"news", "news.example"};
+  Desk().btnAdd.Press();
+  Desk().btnGo.Press();
+  EXPECT_EQ(Page().Address(), "http://news.example");
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Loaded page: ") << "no row is chosen";
+}
+
+TEST_F(PageSettingsTest, LoadOpensTheChosenPageAndTellsSo) {
+  Store("news");
+  Pick("news");
+  Desk().btnGo.Press();
+  EXPECT_EQ(Page().Address(), "http://news.example");
+  EXPECT_EQ(CurrentPageName(), "news");
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Loaded page: news");
+}
+
+TEST_F(PageSettingsTest, DeleteTakesTheChosenPageAwayWithoutAQuestion) {
+  Store("news");
+  Store("board");
+  Pick("news");
+  Desk().btnDelete.Press();
+  EXPECT_EQ(Listed(), Names{"board"});
+  EXPECT_EQ(LastBox(), "");
+}
+
+TEST_F(PageSettingsTest, DeleteWithNoRowChosenTakesThePageWithoutANameIfThereIsOne) {
+  Store("news");
+  Desk().btnDelete.Press();
+  EXPECT_EQ(Listed(), Names{"news"});
+  Store("");
+  Desk().btnDelete.Press();
+  EXPECT_EQ(Listed(), Names{"news"});
+}
+
+TEST_F(PageSettingsTest, TheStartUpPageIsStoredAndTheLabelGoesOnTellingTheFormerOne) {
+  Store("news");
+  SetStartUpPage("board");
+  Pick("news");
+  Desk().btnStartUPpage.Press();
+  EXPECT_EQ(Option("StartUpPage", "PageName"), "news");
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: board");
+}
+
+TEST_F(PageSettingsTest, AShortPressMovesThePageByTwoSteps) {
+  Hold(Desk().btnLocation_0, 10ms);
+  EXPECT_EQ(Feed().Web.Left, -200);
+  Hold(Desk().btnLocation_1, 10ms);
+  EXPECT_EQ(Feed().Web.Left, 0);
+  Hold(Desk().btnLocation_2, 10ms);
+  EXPECT_EQ(Feed().Web.Top, -200);
+  Hold(Desk().btnLocation_3, 10ms);
+  EXPECT_EQ(Feed().Web.Top, 0);
+}
+
+TEST_F(PageSettingsTest, ALongPressGoesOnUntilTheButtonComesUpAndNothingIsStored) {
+  Store("news");
+  SetStartUpPage("news");
+  Feed();
+  Hold(Desk().btnLocation_3, 500ms);
+  EXPECT_EQ(Feed().Web.Top, -3000 + 100 * 12);
+  Advance(1s);
+  EXPECT_EQ(Feed().Web.Top, -3000 + 100 * 12);
+  EXPECT_EQ(PageKey("news", "PageTop"), "-3000");
+  Desk().btnSave.Press();
+  EXPECT_EQ(PageKey("news", "PageTop"), "-1800");
+  EXPECT_EQ(Listed(), Names{"news"});
+}
+
+TEST_F(PageSettingsTest, StayOnTopActsAtOnceAndIsStored) {
+  Feed();
+  Advance(1s);
+  Desk().chkOntop.Toggle();
+  EXPECT_TRUE(Feed().win.OnTop);
+  EXPECT_EQ(Option("Display", "OnTop"), "1");
+  Desk().chkOntop.Toggle();
+  EXPECT_FALSE(Feed().win.OnTop);
+  EXPECT_EQ(Option("Display", "OnTop"), "0");
+}
+
+TEST_F(PageSettingsTest, TheBoxForClicksIsClearAtFirstWhileThePageTakesThem) {
+  EXPECT_EQ(Desk().chkEnable.Value, 0);
+  EXPECT_TRUE(Feed().picWeb.Enabled);
+  Desk().chkEnable.Toggle();
+  EXPECT_TRUE(Feed().picWeb.Enabled);
+  Desk().chkEnable.Toggle();
+  EXPECT_FALSE(Feed().picWeb.Enabled);
+}
+
+TEST_F(PageSettingsTest, ThePageIsReloadedWheneverThePeriodIsOver) {
+  SetOption("Settings", "Refresh", "1");
+  SetOption("Settings", "Min", "2 Min");
+  Feed();
+  Desk().Show();
+  sim.trace.Take();
+  Advance(119s);
+  EXPECT_EQ(Reloads(), 0);
+  Advance(1s);
+  EXPECT_EQ(Reloads(), 1);
+  Advance(240s);
+  EXPECT_EQ(Reloads(), 2);
+}
+
+TEST_F(PageSettingsTest, WithNoPeriodStoredThePageReloadsEverySecondAsLongAsTheDeskIsOpen) {
+  Desk().chkRefresh.Toggle();
+  EXPECT_EQ(Option("Settings", "Refresh"), "1");
+  Feed();
+  sim.trace.Take();
+  Advance(5s);
+  EXPECT_EQ(Reloads(), 5);
+  Desk().vkCommand5.Press();
+  EXPECT_FALSE(station.forms.Loaded<frmPageSettings>());
+  Advance(5s);
+  EXPECT_EQ(Reloads(), 0);
+}
+
+TEST_F(PageSettingsTest, AnotherPeriodLetsTheSecondsThatHavePassedCount) {
+  Desk().chkRefresh.Toggle();
+  Desk().cmbMin.Pick(1);
+  Feed();
+  sim.trace.Take();
+  Advance(90s);
+  Desk().cmbMin.Pick(0);
+  Advance(1s);
+  EXPECT_EQ(Reloads(), 1);
+}
+
+TEST_F(PageSettingsTest, APeriodThatIsNoNumberIsNoughtAndOneBeyondAllBoundsIsTheLongest) {
+  SetOption("Settings", "Min", "often");
+  EXPECT_EQ(Desk().RefreshSeconds, 0);
+  Desk().vkCommand5.Press();
+  SetOption("Settings", "Min", "99999999 Min");
+  EXPECT_EQ(Desk().RefreshSeconds, 32767);
+}
+
+TEST_F(PageSettingsTest, BehindAClickInTheListThePeriodIsWrittenIntoThePagesWhereItLooksLikeOne) {
+  Store("news");
+  Pick("news");
+  Desk().cmbMin.Pick(4);
+  EXPECT_EQ(PageKey("Settings", "Min"), "5 Min");
+  EXPECT_EQ(Option("Settings", "Min"), "(none)");
+  Desk().btnSave.Press();
+  EXPECT_EQ(Listed(), (Names{"news", "Settings", ""}));
+}
+
+TEST_F(PageSettingsTest, TheTransparencyIsStoredAndMakesTheWindowALayeredOneWithItsOtherBitsKept) {
+  Feed().ExtendedStyle = 0x20;
+  for (const int value : {10, 200, 255}) {
+    Desk().scrlTrans.Work(value);
+    EXPECT_EQ(Option("Display", "Trans"), std::to_string(value));
+    EXPECT_EQ(Desk().txtTrans.Text.Get(), std::to_string(value));
+    EXPECT_EQ(Feed().ExtendedStyle, kLayered | 0x20);
+  }
+  EXPECT_EQ(Feed().KeyInForce(), std::nullopt);
+}
+
+TEST_F(PageSettingsTest, TheTopmostTwentyTransparenciesLeaveTheWindowsStyleAloneAndAreStored) {
+  for (const int value : {256, 275}) {
+    Desk().scrlTrans.Work(value);
+    EXPECT_EQ(Feed().ExtendedStyle, 0);
+    EXPECT_EQ(Option("Display", "Trans"), std::to_string(value));
+  }
+}
+
+TEST_F(PageSettingsTest, AnAlphaThatNoWindowHasIsRefused) {
+  EXPECT_EQ(SetPageAlpha(Feed(), -1), 1);
+  EXPECT_EQ(SetPageAlpha(Feed(), 256), 1);
+  EXPECT_EQ(Feed().ExtendedStyle, 0);
+  EXPECT_EQ(SetPageAlpha(Feed(), 0), 0);
+}
+
+TEST_F(PageSettingsTest, WhatReachesForAClosedFeedBringsItToLifeHidden) {
+  const std::vector<std::function<void()>> reaches{
+      [this] { Desk().scrlTrans.Work(100); }, [this] { Desk().chkOntop.Toggle(); },
+      [this] { Desk().chkEnable.Toggle(); },  [this] { Desk().btnLocation_0.Press(); },
+      [this] { Desk().btnSave.Press(); },     [this] { Desk().vkCommand1.Press(); }};
+  for (const auto& reach : reaches) {
+    ASSERT_FALSE(station.forms.Loaded<FrmWeb>());
+    reach();
+    ASSERT_TRUE(station.forms.Loaded<FrmWeb>());
+    EXPECT_FALSE(Feed().Visible);
+    station.forms.Unload<FrmWeb>();
+  }
+}
+
+TEST_F(PageSettingsTest, TheSpareButtonIsTheOperatorsMoveToTwoHundred) {
+  Desk().Command2.Press();
+  EXPECT_EQ(Desk().scrlTrans.Value, 200);
+  EXPECT_EQ(Option("Display", "Trans"), "200");
+}
+
+TEST_F(PageSettingsTest, TheTextGrowsToItsLargestAndItsSizeIsTold) {
+  Feed();
+  Desk().vkCommand1.Press();
+  EXPECT_EQ(LastBox(), "box \"The current font size is 2\" \"Corvanta 6.0\"");
+  for (int i = 0; i < 5; ++i) Desk().vkCommand2.Press();
+  EXPECT_EQ(Page().Looks().zoom, 150);
+  Desk().vkCommand1.Press();
+  EXPECT_EQ(LastBox(), "box \"The current font size is 4\" \"Corvanta 6.0\"");
+}
+
+TEST_F(PageSettingsTest, ExitStoresThePlaceAndEndsTheWholeProgramWithTheTaskbarAsItIs) {
+  Store("news");
+  SetStartUpPage("news");
+  Feed().Left = 999;
+  sim.desktop.taskbarVisible = false;
+  Desk().vkCommand3.Press();
+  EXPECT_EQ(PageKey("news", "FrmLeft"), "999");
+  EXPECT_TRUE(sim.desktop.ended);
+  EXPECT_FALSE(sim.desktop.taskbarVisible);
+}
+
+}  // namespace
