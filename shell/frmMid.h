@@ -50,6 +50,9 @@ class frmMid : public Form {
   MenuItem mnuClock{*this, "mnuClock"};
   MenuItem mnuShowClock{*this, "mnuShowClock"};
   MenuItem mnuClockSettings{*this, "mnuClockSettings"};
+  MenuItem mnuWebfeed{*this, "mnuWebfeed"};
+  MenuItem mnuShowWebFeed{*this, "mnuShowWebFeed"};
+  MenuItem mnuWebfeedSetttings{*this, "mnuWebfeedSetttings"};
   MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
   MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
   MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};
@@ -136,6 +139,7 @@ class frmMid : public Form {
   void RestoreCrawler();
   void RestoreFlashAd();
   void RestoreLeftSideAd();
+  void RestoreWebFeed();
   void RestoreVideoAd();
   void RestorePlaylist();
   void RestoreDesktop();

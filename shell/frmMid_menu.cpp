@@ -25,6 +25,8 @@
 #include "shell/ConfirmExit.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMid.h"
+#include "webfeed/FrmWeb.h"
+#include "webfeed/frmPageSettings.h"
 
 namespace {
 
@@ -55,7 +57,7 @@ void frmMid::ShowOrUnload(bool show) {
 }
 
 struct frmMid::Toggle {
-  MenuItem frmMid::*entry;  // null: the status bar tells it, no entry switches it
+  MenuItem frmMid::*entry;
   bool frmMid::*flag;
   const char* section;
   const char* key;
@@ -77,7 +79,8 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
        Lamp::kOnAir},
       {&frmMid::mnuShowClock, &frmMid::ClockShown, "Clock", "Show", &frmMid::ShowOrUnload<frmClockShow>, 5,
        "Show clock ", Lamp::kOnAir},
-      {nullptr, &frmMid::WebFeedShown, "WebFeed", "Show", nullptr, 6, "Show web feed ", Lamp::kOnAir},
+      {&frmMid::mnuShowWebFeed, &frmMid::WebFeedShown, "WebFeed", "Show", &frmMid::ShowOrUnload<FrmWeb>, 6,
+       "Show web feed ", Lamp::kOnAir},
       {&frmMid::mnuShowLogo, &frmMid::LogoShown, "logo", "Show", &frmMid::ShowOrUnload<FrmLogoShow>, 7, "Show logo ",
        Lamp::kOnAir},
       {&frmMid::mnuShowStiker, &frmMid::StikerShown, "Stiker", "Show", &frmMid::ShowOrUnload<frmStikerShow>, 8,
@@ -93,7 +96,10 @@ std::span<const frmMid::Toggle> frmMid::Toggles() {
 
 void frmMid::ConnectMenu() {
   for (const Toggle& toggle : Toggles()) {
-    if (toggle.entry != nullptr) (this->*toggle.entry).Click.Connect([this, &toggle] { Choose(toggle); });
+    const auto choose = [this, &toggle] { Choose(toggle); };
+    // The web feed is switched on line alone, off too. Meant so.
+    const bool needsNetwork = toggle.flag == &frmMid::WebFeedShown;
+    (this->*toggle.entry).Click.Connect([this, choose, needsNetwork] { needsNetwork ? WhenOnline(choose) : choose(); });
   }
   mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
 
@@ -142,6 +148,7 @@ void frmMid::ConnectMenu() {
     });
   }
 
+  mnuWebfeedSetttings.Click.Connect([this] { WhenOnline([this] { ShowForm<frmPageSettings>(station_.forms); }); });
   mnuTurnOffMonitor.Click.Connect([this] { Outside().desktop.TurnOffMonitor(); });
   mnuHideMe.Click.Connect([this] { Hide(); });
   mnuShow.Click.Connect([this] { Show(); });
@@ -162,7 +169,7 @@ void frmMid::ConnectMenu() {
 void frmMid::Mark(bool frmMid::*flag, bool on) {
   this->*flag = on;
   for (const Toggle& toggle : Toggles()) {
-    if (toggle.flag == flag && toggle.entry != nullptr) (this->*toggle.entry).Checked = on;
+    if (toggle.flag == flag) (this->*toggle.entry).Checked = on;
   }
 }
 
@@ -234,7 +241,8 @@ void frmMid::OnTopSet() {
   SkippingFailures([&] { comeForward("logo", std::type_identity<FrmLogoShow>()); },
                    [&] { comeForward("Clock", std::type_identity<frmClockShow>()); },
                    [&] { comeForward("Stiker", std::type_identity<frmStikerShow>()); },
-                   [&] { comeForward("FlashAd", std::type_identity<frmFlashAdShow>()); });
+                   [&] { comeForward("FlashAd", std::type_identity<frmFlashAdShow>()); },
+                   [&] { comeForward("WebFeed", std::type_identity<FrmWeb>()); });
 }
 
 void frmMid::mnuMasking_Click() {

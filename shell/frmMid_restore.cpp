@@ -10,13 +10,15 @@
 #include "playlist/frmPlaylist.h"
 #include "settings/Numbers.h"
 #include "shell/frmMid.h"
+#include "webfeed/FrmWeb.h"
 
 void frmMid::LoadSett() {
   SkippingFailures([this] { RestoreMonitor(); }, [this] { RestoreShown(&frmMid::LogoShown); },
                    [this] { RestoreShown(&frmMid::ClockShown); }, [this] { RestoreShown(&frmMid::StikerShown); },
                    [this] { RestoreShown(&frmMid::OutputShown); }, [this] { RestoreBreakingNews(); },
                    [this] { RestoreCrawler(); }, [this] { RestoreFlashAd(); }, [this] { RestoreLeftSideAd(); },
-                   [this] { RestoreVideoAd(); }, [this] { RestorePlaylist(); }, [this] { RestoreDesktop(); });
+                   [this] { RestoreWebFeed(); }, [this] { RestoreVideoAd(); }, [this] { RestorePlaylist(); },
+                   [this] { RestoreDesktop(); });
 }
 
 bool frmMid::ShowKeySays(const std::string& section, const std::string& key) {
@@ -57,6 +59,12 @@ void frmMid::RestoreLeftSideAd() {
   Mark(&frmMid::LeftSideAdShown, ShowKeySays("LeftSideAd"));
   ShowLeftSideAd(LeftSideAdShown);
   if (!LeftSideAdShown) station_.forms.Unload<frmLeftSideAdSett>();
+}
+
+// On line or not: the page comes when it can.
+void frmMid::RestoreWebFeed() {
+  RestoreShown(&frmMid::WebFeedShown);
+  if (!WebFeedShown) station_.forms.Unload<FrmWeb>();
 }
 
 // The countdown goes on from where it stood. With the breaks off their form waits until it is needed.

@@ -7,8 +7,8 @@ using namespace std::chrono_literals;
 namespace {
 
 // Each feature that has a switch, by the section of its key `Show`.
-constexpr const char* kSwitched[] = {"logo",       "Clock",   "Stiker",     "Output", "BreakingNews",
-                                     "AdSettings", "FlashAd", "LeftSideAd", "VideoAd"};
+constexpr const char* kSwitched[] = {"logo",       "Clock",   "Stiker",     "Output",  "BreakingNews",
+                                     "AdSettings", "FlashAd", "LeftSideAd", "WebFeed", "VideoAd"};
 
 class WalkTest : public StationTest {
  protected:
@@ -37,6 +37,8 @@ class WalkTest : public StationTest {
       Set(section, "LastPath", std::string("/station/Media/") + section + "/Shop");
     }
     Movie("FlashBN/bn.swf");
+    sim.files.Put("/station/Page.ini", "[board]\r\nURL=board.example\r\n");
+    sim.files.Put("/station/settings_page.ini", "[StartUpPage]\r\nPageName=board\r\n");
     Playlist("Day.plt", {Clip("news.mp4")});
     Set("Playlist", "LastPlay", "1");
     Set("Playlist", "LastPlaySchdule", "1");
@@ -72,6 +74,9 @@ TEST_F(WalkTest, WithEverythingOnTheStationComesBackInItsOrder) {
                            "frmLeftSideAdSett loaded",
                            "frmLeftSideAdSett shown",
                            "frmLeftSideAdSett hidden",
+                           "FrmWeb loaded",
+                           "FrmWeb.Web open http://board.example",
+                           "FrmWeb shown",
                            "frmVideoAdSett loaded",
                            "frmPlaylist loaded",
                            "frmPlayer.Player open /clips/news.mp4",

@@ -64,6 +64,9 @@ TEST_F(MenuTreeTest, TheMenuBarHasItsEntriesInTheirOrderLetterForLetter) {
                                                    "mnuClock \"&Clock\"",
                                                    "  mnuShowClock \"Show clock\"",
                                                    "  mnuClockSettings \"Clock settings\"",
+                                                   "mnuWebfeed \"&Web feed\"",
+                                                   "  mnuShowWebFeed \"Show web feed\"",
+                                                   "  mnuWebfeedSetttings \"Settings\"",
                                                    "mnuBreakingNews \"Breaking nws\"",
                                                    "  mnuBreakingNewsShow \"Show\"",
                                                    "  mnuBreakingNewsSettings \"Settings\"",
@@ -106,8 +109,8 @@ TEST_F(MenuTreeTest, WhatIsSwitchedHasATickAndNothingElseHas) {
     if (action->isCheckable()) checkable.push_back(Stored(action->objectName()));
   }
   EXPECT_EQ(checkable, (Lines{"mnuShowCrawlersAd", "mnuShowVideoAd", "mnuShowFlashAd", "mnuLeftsideAd", "mnuShowLogo",
-                              "mnuShowStiker", "mnuShowClock", "mnuBreakingNewsShow", "mnuOutputWindow", "mnuMonitor2",
-                              "mnuMasking"}));
+                              "mnuShowStiker", "mnuShowClock", "mnuShowWebFeed", "mnuBreakingNewsShow",
+                              "mnuOutputWindow", "mnuMonitor2", "mnuMasking"}));
 }
 
 TEST_F(MenuTreeTest, AChosenEntryOfTheWindowIsTickedAndUntickedByTheStation) {

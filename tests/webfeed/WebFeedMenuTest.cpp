@@ -1,0 +1,84 @@
+#include "tests/webfeed/WebFeedTest.h"
+
+namespace {
+
+constexpr char kOfflineBox[] = "box \"Your PC is not cinnected to internet. Please try again later.\" \"Corvanta 6.0\"";
+
+class WebFeedMenuTest : public WebFeedTest {
+ protected:
+  bool IsTold(const std::string& line) {
+    const Names lines = sim.trace.Take();
+    return std::ranges::find(lines, line) != lines.end();
+  }
+};
+
+TEST_F(WebFeedMenuTest, TheEntryShowsTheFeedAndTakesItOffAgain) {
+  ControlWindow().mnuShowWebFeed.Choose();
+  ASSERT_TRUE(station.forms.Loaded<FrmWeb>());
+  EXPECT_TRUE(Feed().Visible);
+  EXPECT_TRUE(ControlWindow().mnuShowWebFeed.Checked);
+  EXPECT_EQ(Setting("WebFeed", "Show"), "True");
+  ControlWindow().mnuShowWebFeed.Choose();
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>());
+  EXPECT_FALSE(ControlWindow().mnuShowWebFeed.Checked);
+  EXPECT_EQ(Setting("WebFeed", "Show"), "False");
+}
+
+TEST_F(WebFeedMenuTest, OffLineTheEntryChangesNothing) {
+  ControlWindow();
+  sim.network.SetOnline(false);
+  ControlWindow().mnuShowWebFeed.Choose();
+  EXPECT_TRUE(IsTold(kOfflineBox));
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>());
+  EXPECT_FALSE(ControlWindow().mnuShowWebFeed.Checked);
+  EXPECT_EQ(Setting("WebFeed", "Show"), "(none)");
+}
+
+TEST_F(WebFeedMenuTest, OffLineAFeedThatIsOnCannotBeTurnedOffEither) {
+  ControlWindow().mnuShowWebFeed.Choose();
+  sim.network.SetOnline(false);
+  ControlWindow().mnuShowWebFeed.Choose();
+  EXPECT_TRUE(IsTold(kOfflineBox));
+  EXPECT_TRUE(Feed().Visible);
+  EXPECT_TRUE(ControlWindow().mnuShowWebFeed.Checked);
+  EXPECT_EQ(Setting("WebFeed", "Show"), "True");
+}
+
+TEST_F(WebFeedMenuTest, TheDeskOpensOnLineAlone) {
+  ControlWindow();
+  sim.network.SetOnline(false);
+  ControlWindow().mnuWebfeedSetttings.Choose();
+  EXPECT_TRUE(IsTold(kOfflineBox));
+  EXPECT_FALSE(station.forms.Loaded<frmPageSettings>());
+  sim.network.SetOnline(true);
+  ControlWindow().mnuWebfeedSetttings.Choose();
+  EXPECT_TRUE(Desk().Visible);
+}
+
+TEST_F(WebFeedMenuTest, AtTheStartTheFeedIsBackWithoutTheNetworkToo) {
+  Set("WebFeed", "Show", "True");
+  sim.network.SetOnline(false);
+  ControlWindow();
+  ASSERT_TRUE(station.forms.Loaded<FrmWeb>());
+  EXPECT_TRUE(Feed().Visible);
+  EXPECT_TRUE(ControlWindow().mnuShowWebFeed.Checked);
+  EXPECT_FALSE(IsTold(kOfflineBox));
+}
+
+TEST_F(WebFeedMenuTest, AnythingButTrueLeavesItOff) {
+  for (const char* value : {"true", "1", "False", ""}) {
+    Set("WebFeed", "Show", value);
+    ControlWindow().LoadSett();
+    EXPECT_FALSE(station.forms.Loaded<FrmWeb>()) << value;
+  }
+}
+
+TEST_F(WebFeedMenuTest, MaskingTheOutputBringsTheFeedInFront) {
+  ControlWindow().mnuShowWebFeed.Choose();
+  Advance(std::chrono::seconds(1));
+  EXPECT_FALSE(Feed().win.OnTop);
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_TRUE(Feed().win.OnTop);
+}
+
+}  // namespace
