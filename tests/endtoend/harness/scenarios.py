@@ -14,7 +14,14 @@ FAILURES = ROOT / "build" / "e2e-failures"
 # What is too large to be kept after a failure.
 LARGEST_KEPT = 1 << 20
 
+# What CTest takes for "skipped".
+SKIPPED = 77
+
 _scenarios = {}
+
+
+class Skipped(Exception):
+    """The machine lacks what the scenario needs."""
 
 
 def scenario(function):
@@ -23,13 +30,24 @@ def scenario(function):
     return function
 
 
+def require_network():
+    """Skips the scenario on a machine that is off line: the station asks for a default route."""
+    routes = (line.split() for line in open("/proc/net/route"))
+    if not any(words[1] == "00000000" and int(words[3], 16) & 1 for words in routes if words[1] != "Destination"):
+        raise Skipped("this machine has no default route")
+
+
 def main():
     if sys.argv[1:] == ["--list"]:
         print("\n".join(_scenarios))
         return
     if not corvanta_is_built():
         sys.exit("The program is not built yet: cmake --build --preset release")
-    failed = [name for name in sys.argv[1:] or _scenarios if not _plays(name)]
+    try:
+        failed = [name for name in sys.argv[1:] or _scenarios if not _plays(name)]
+    except Skipped as reason:
+        print(f"Skipped: {reason}")
+        sys.exit(SKIPPED)
     if failed:
         sys.exit(f"Failed: {', '.join(failed)}")
 
@@ -39,6 +57,8 @@ def _plays(name):
         try:
             _scenarios[name](desk)
             return True
+        except Skipped:
+            raise
         except Exception:
             traceback.print_exc()
             kept = _keep(desk, name)

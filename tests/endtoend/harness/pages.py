@@ -1,0 +1,57 @@
+"""A web server on this machine, with a page on which every place has a colour of its own."""
+
+import http.server
+import threading
+
+CELL = 20  # pixels
+COLUMNS, ROWS = 96, 54  # as many as a screen of 1920x1080 has
+
+# A field to be typed into stands at FIELD, and what was typed goes to /typed.
+FIELD = (420, 430)
+
+PAGE = f"""<!DOCTYPE html><html><body style="margin:0;overflow:hidden">
+<canvas id="board" width="{COLUMNS * CELL}" height="{ROWS * CELL}" style="position:absolute;left:0;top:0"></canvas>
+<form action="/typed" style="position:absolute;left:{FIELD[0] - 20}px;top:{FIELD[1] - 20}px">
+<input name="text" style="width:80px;height:40px"></form>
+<script>
+const pen = document.getElementById("board").getContext("2d");
+for (let row = 0; row < {ROWS}; row++) for (let column = 0; column < {COLUMNS}; column++) {{
+  pen.fillStyle = `rgb(${{40 + 2 * column}}, ${{40 + 4 * row}}, 128)`;
+  pen.fillRect(column * {CELL}, row * {CELL}, {CELL}, {CELL});
+}}
+</script></body></html>"""
+
+
+def colour_at(x, y):
+    """What the page shows there, counted from its own left top corner."""
+    return 40 + 2 * (x // CELL), 40 + 4 * (y // CELL), 128
+
+
+class Pages:
+    """Serves until it is left. `asked` is every path that was asked for, in order."""
+
+    def __enter__(self):
+        asked = self.asked = []
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                asked.append(self.path)
+                body = PAGE.encode()
+                self.send_response(200)
+                self.send_header("Content-Type", "text/html")
+                self.send_header("Content-Length", str(len(body)))
+                self.send_header("Cache-Control", "no-store")
+                self.end_headers()
+                self.wfile.write(body)
+
+            def log_message(self, *_):
+                pass
+
+        self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        self.address = f"http://127.0.0.1:{self._server.server_port}/board"
+        threading.Thread(target=self._server.serve_forever, daemon=True).start()
+        return self
+
+    def __exit__(self, *_):
+        self._server.shutdown()
+        self._server.server_close()
