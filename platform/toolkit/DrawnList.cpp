@@ -2,11 +2,6 @@
 
 #include <algorithm>
 
-LookColour LookColour::OfBgr(std::uint32_t number) {
-  const auto byte = [number](int shift) { return static_cast<std::uint8_t>(number >> shift & 0xFF); };
-  return Colour{byte(0), byte(8), byte(16)};
-}
-
 DrawnLook::DrawnLook() {
   Tell(RowHeight, FullRowSelect, ShowIcon, IconFocus, StrechIcon, IconExtractSize, GridLines, GridColor, BackColor,
        ForeColor, SelColor, SelForeColor, BackGradient, BackGradientCol, SelGradient, SelGradientCol, SelectionStyle,

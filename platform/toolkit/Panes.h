@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/toolkit/Control.h"
+#include "platform/toolkit/LookColour.h"
 
 // A picture file that a pane shows. Two loads of one path are two pictures: the file may have been written anew.
 struct LoadedPicture {
@@ -29,7 +31,11 @@ class PictureBox : public Control {
   void Decoded(int load, bool shows);
 
   Property<LoadedPicture> Picture;
-  Property<Colour> BackColor{kBlack};
+  // On the air a fixed one.
+  Property<LookColour> BackColor{kBlack};
+  // Both are seen on an operator's form alone: the colour of what is drawn on it, and 1 for a line around it.
+  Property<LookColour> ForeColor{LookColour::System::kWindowText};
+  Property<std::int16_t> BorderStyle{0};
   // Nothing of its own stands behind what it holds.
   Property<bool> SeeThrough{false};
   Event<> FellBack;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/forms/Bindings.h"
+#include "platform/qt/forms/DrawnPaint.h"
 #include "platform/qt/forms/Paint.h"
 #include "platform/qt/forms/PictureView.h"
 #include "platform/qt/forms/Texts.h"
@@ -26,7 +27,16 @@ void BindPicture(Joint& joint, Event<>& changed, std::function<QString()> path, 
 }  // namespace
 
 void Bind(Joint& joint, PictureBox& control, QFrame& widget, const Surfaces& surfaces) {
-  joint.Watch(control.BackColor.Changed, [&] { Paint(widget, control.BackColor); });
+  // Until the form says otherwise it has the colours and the frame of its layout.
+  const auto paint = [&] {
+    Paint(widget, Painted(control.BackColor, widget.palette()), Painted(control.ForeColor, widget.palette()));
+  };
+  if (control.BackColor.Get() != LookColour(kBlack)) paint();
+  joint.Watch(control.BackColor.Changed, paint);
+  joint.Watch(control.ForeColor.Changed, paint);
+  const auto frame = [&] { widget.setFrameShape(control.BorderStyle == 0 ? QFrame::NoFrame : QFrame::Box); };
+  if (control.BorderStyle != 0) frame();
+  joint.Watch(control.BorderStyle.Changed, frame);
   const auto path = [&control] { return Shown(control.Picture.Get().path); };
   BindPicture(joint, control.Picture.Changed, path, widget, surfaces);
 }

@@ -29,6 +29,8 @@ QColor Painted(const LookColour& colour, const QPalette& palette) {
   switch (colour.system) {
     case LookColour::System::kWindow:
       return palette.color(QPalette::Base);
+    case LookColour::System::kWindowText:
+      return palette.color(QPalette::Text);
     case LookColour::System::kButtonFace:
       return palette.color(QPalette::Button);
     case LookColour::System::kButtonText:

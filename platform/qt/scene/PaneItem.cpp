@@ -6,7 +6,7 @@
 namespace {
 
 QColor ColourOf(const PictureBox& pane) {
-  const Colour colour = pane.BackColor;
+  const Colour colour = pane.BackColor.Get().fixed;
   return pane.SeeThrough ? QColor(Qt::transparent) : QColor(colour.red, colour.green, colour.blue);
 }
 
