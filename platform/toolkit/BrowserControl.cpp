@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "platform/WebAddress.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/UserControl.h"
 
 namespace {
 
@@ -20,7 +21,12 @@ BrowserControl::BrowserControl(Form& form, std::string name) : Control(form, std
 BrowserControl::BrowserControl(Control& container, std::string name) : Control(container, std::move(name)) { Start(); }
 
 void BrowserControl::Start() {
-  surface_ = Owner().Outside().browser.NewSurface(Owner().Name() + "." + Name(), *this);
+  std::string name = Name();
+  // Inside a control that is made of others its name is not its alone.
+  for (const Control* holder = Container(); holder != nullptr; holder = holder->Container()) {
+    if (dynamic_cast<const UserControl*>(holder) != nullptr) name = holder->Name() + "." + name;
+  }
+  surface_ = Owner().Outside().browser.NewSurface(Owner().Name() + "." + name, *this);
   const auto apply = [this] { ApplyLooks(); };
   TextSize.Changed.Connect(apply);
   Sound.Changed.Connect(apply);
@@ -29,7 +35,8 @@ void BrowserControl::Start() {
 
 void BrowserControl::Retire() { surface_.reset(); }
 
-void BrowserControl::Navigate(const std::string& typed) {
+void BrowserControl::Navigate(const std::string& typed, int, const std::string&, const std::string&,
+                              const std::string&) {
   if (!surface_) return;
   const bool isPath = typed.starts_with('/') && !typed.starts_with("//");
   surface_->Navigate(isPath ? FileAddress(Owner().Outside().files.Resolve(typed)) : WebAddress(typed));

@@ -17,13 +17,17 @@ class BrowserControl : public Control, private BrowserListener {
   void Retire() override;
 
   // Opens what was typed as an address: a path of the disk in any spelling that the disk takes, or an address with or
-  // without its scheme. What is none shows nothing.
-  void Navigate(const std::string& typed);
+  // without its scheme. What is none shows nothing. A page is opened in place and asked for by its address alone: the
+  // other four change nothing.
+  void Navigate(const std::string& typed, int flags = 0, const std::string& frame = {}, const std::string& data = {},
+                const std::string& headers = {});
   // Loads the page again.
   void Refresh();
 
   // No page opens a dialog, whatever stands here.
   Property<bool> Silent{false};
+  // A page is loaded from where it lies, whatever stands here.
+  Property<bool> Offline{false};
   // Of the page's text, from 0 to 4: 80, 90, 100, 120 and 150 per cent.
   Property<int> TextSize{2};
   Property<bool> Sound{true};

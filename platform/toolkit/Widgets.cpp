@@ -20,11 +20,22 @@ void TextBox::Type(const std::string& text) {
 }
 
 ComboBox::ComboBox(Form& form, std::string name)
-    : Control(form, std::move(name)), ListIndex(-1, [this](int index) {
-        const std::string text = index == -1 ? std::string() : List(index);
-        ListIndex.Store(index);
-        Text = text;
-      }) {
+    : Control(form, std::move(name)), ListIndex(-1, [this](int index) { Take(index); }) {
+  Follow();
+}
+
+ComboBox::ComboBox(Control& container, std::string name)
+    : Control(container, std::move(name)), ListIndex(-1, [this](int index) { Take(index); }) {
+  Follow();
+}
+
+void ComboBox::Take(int index) {
+  const std::string text = index == -1 ? std::string() : List(index);
+  ListIndex.Store(index);
+  Text = text;
+}
+
+void ComboBox::Follow() {
   Text.Changed.Connect([this] {
     if (ListIndex != -1 && Text.Get() != List(ListIndex)) ListIndex.Store(-1);
   });

@@ -68,6 +68,7 @@ class TextBox : public Control {
 class ComboBox : public Control {
  public:
   ComboBox(Form& form, std::string name);
+  ComboBox(Control& container, std::string name);
   std::string_view Kind() const override { return "ComboBox"; }
 
   void AddItem(const std::string& item);
@@ -88,6 +89,9 @@ class ComboBox : public Control {
   Event<> Click;
 
  private:
+  void Take(int index);
+  void Follow();
+
   std::vector<std::string> items_;
 };
 

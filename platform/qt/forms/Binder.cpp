@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QAction>
 #include <QMenu>
+#include <algorithm>
 #include <set>
 
 #include "platform/qt/OfKind.h"
@@ -10,6 +11,7 @@
 #include "platform/qt/forms/Texts.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/MenuItem.h"
+#include "platform/toolkit/UserControl.h"
 
 namespace {
 
@@ -22,7 +24,7 @@ QWidget& Ground(QWidget& widget) {
 }  // namespace
 
 Binder::Binder(Joint& joint, Form& form, const Surfaces& surfaces) : joint_(joint), form_(form), surfaces_(surfaces) {
-  BindAll(form.Controls());
+  BindScope(form.Controls(), joint.Window());
   for (Component* component : form.Components()) {
     if (auto* entry = dynamic_cast<MenuItem*>(component)) BindEntry(*entry);
     if (auto* separator = dynamic_cast<MenuSeparator*>(component)) BindSeparator(*separator);
@@ -55,32 +57,54 @@ void Binder::BindEntry(MenuItem& entry) {
   });
 }
 
-void Binder::BindAll(const std::vector<Control*>& controls) {
-  for (Control* control : controls) {
-    BindOne(*control);
-    BindAll(control->Children());
+// What stands inside a control of the station's own comes last: until then no name is there twice.
+void Binder::BindScope(const std::vector<Control*>& controls, QWidget& scope) {
+  std::vector<UserControl*> own;
+  BindAll(controls, scope, own);
+  for (UserControl* control : own) {
+    QWidget& widget = *widgets_[control];
+    OfKind(Bindings(), *control)->bind(joint_, *control, widget, surfaces_);
+    BindScope(control->Children(), widget);
   }
 }
 
-void Binder::BindOne(Control& control) {
-  const Binding* binding = OfKind(Bindings(), control);
-  if (binding == nullptr) {
-    faults_.push_back(control.Name() + ": no widget shows a " + std::string(control.Kind()));
-    return;
+void Binder::BindAll(const std::vector<Control*>& controls, QWidget& scope, std::vector<UserControl*>& own) {
+  for (Control* control : controls) {
+    const Binding* binding = OfKind(Bindings(), *control);
+    if (binding == nullptr) faults_.push_back(control->Name() + ": no widget shows a " + std::string(control->Kind()));
+    QWidget* widget = binding == nullptr ? nullptr : Find(*control, *binding, scope);
+    auto* made = dynamic_cast<UserControl*>(control);
+    if (widget != nullptr) {
+      widgets_[control] = widget;
+      BindCommon(*control, *widget);
+      // In a window the layout has its own measures.
+      if (&scope != &joint_.Window() && widget->parentWidget()->layout() == nullptr) FollowMeasures(*control, *widget);
+      made != nullptr ? own.push_back(made) : binding->bind(joint_, *control, *widget, surfaces_);
+    }
+    if (made == nullptr) BindAll(control->Children(), scope, own);
   }
-  auto* widget = joint_.Window().findChild<QWidget*>(Shown(control.Name()));
+}
+
+QWidget* Binder::Find(const Control& control, const Binding& binding, QWidget& scope) {
+  auto* widget = scope.findChild<QWidget*>(Shown(control.Name()));
   if (widget == nullptr) {
     faults_.push_back(control.Name() + ": missing in the layout");
-    return;
-  }
-  if (!widget->metaObject()->inherits(binding->widget)) {
+  } else if (!widget->metaObject()->inherits(binding.widget)) {
     faults_.push_back(control.Name() + ": is a " + widget->metaObject()->className() + " and should be a " +
-                      binding->widget->className());
-    return;
+                      binding.widget->className());
+    return nullptr;
   }
-  widgets_[&control] = widget;
-  BindCommon(control, *widget);
-  binding->bind(joint_, control, *widget, surfaces_);
+  return widget;
+}
+
+void Binder::FollowMeasures(Control& control, QWidget& widget) {
+  const auto place = [&control, &widget] {
+    widget.setGeometry(ToPixels(control.Left), ToPixels(control.Top), std::max(ToPixels(control.Width), 0),
+                       std::max(ToPixels(control.Height), 0));
+  };
+  for (Property<Twips>* measure : {&control.Left, &control.Top, &control.Width, &control.Height}) {
+    joint_.Follow(measure->Changed, place);
+  }
 }
 
 void Binder::BindCommon(Control& control, QWidget& widget) {

@@ -13,6 +13,7 @@ class Form;
 class MenuItem;
 class QAction;
 class QMenu;
+class UserControl;
 
 // Joins each control of a form with the widget that bears its name, and each menu entry with its action. A control
 // without its widget works on unseen.
@@ -28,9 +29,12 @@ class Binder {
   std::vector<std::string> Faults() const;
 
  private:
-  void BindAll(const std::vector<Control*>& controls);
-  void BindOne(Control& control);
+  // Joins controls with the widgets of a window, or of a control of the station's own.
+  void BindScope(const std::vector<Control*>& controls, QWidget& scope);
+  void BindAll(const std::vector<Control*>& controls, QWidget& scope, std::vector<UserControl*>& own);
+  QWidget* Find(const Control& control, const Binding& binding, QWidget& scope);
   void BindCommon(Control& control, QWidget& widget);
+  void FollowMeasures(Control& control, QWidget& widget);
   void BindEntry(MenuItem& entry);
   void BindSeparator(const Component& separator);
   QAction* ActionOf(const Component& entry);

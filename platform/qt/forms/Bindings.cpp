@@ -14,6 +14,7 @@
 #include "platform/qt/forms/BindPictures.h"
 #include "platform/qt/forms/BindPlain.h"
 #include "platform/qt/forms/BindStatusBar.h"
+#include "platform/qt/forms/BindUserControl.h"
 
 namespace {
 
@@ -38,6 +39,7 @@ constexpr Binding kBindings[] = {
     Row<PictureBox, QFrame>("PictureBox"),
     Row<FlashBox, QFrame>("FlashBox"),
     Row<BrowserControl, QFrame>("BrowserControl"),
+    Row<UserControl, QFrame>("UserControl"),
     Row<StatusBar, QStatusBar>("StatusBar"),
     Row<PlayerControl, QWidget>("PlayerControl"),
     Row<FileListBox, NameView>("FileListBox"),

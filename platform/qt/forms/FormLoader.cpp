@@ -62,3 +62,5 @@ std::unique_ptr<QWidget> LoadLayout(const QString& file) {
 }
 
 QString LayoutFile(const QString& formName) { return ":/forms/" + formName + ".ui"; }
+
+QString ControlLayoutFile(const QString& controlName) { return ":/controls/" + controlName + ".ui"; }

@@ -11,3 +11,5 @@ std::unique_ptr<QWidget> LoadLayout(const QString& file);
 
 // Where a form's layout file is among the resources.
 QString LayoutFile(const QString& formName);
+// The same of a control of the station's own.
+QString ControlLayoutFile(const QString& controlName);
