@@ -119,6 +119,7 @@ void Bind(Joint& joint, ComboBox& control, QComboBox& widget, const Surfaces&) {
   joint.Watch(control.ListIndex.Changed, show);
   joint.On(&widget, &QComboBox::activated, [&control](int index) { control.Pick(index); });
   if (widget.lineEdit() != nullptr) {
+    widget.lineEdit()->setAccessibleName(widget.accessibleName());  // the box itself is told by what it holds
     joint.On(widget.lineEdit(), &QLineEdit::textEdited,
              [&control](const QString& text) { control.Type(Stored(text)); });
     joint.OnEvents(&widget, [&widget](QEvent& event) {

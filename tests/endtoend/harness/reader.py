@@ -62,13 +62,14 @@ class Reader:
 
     def _resting_place(self, name, role):
         """Where it is, once its window has come to rest."""
-        first = self._place(name, role)
+        first = self.place(name, role)
         time.sleep(0.2)
-        now = self._place(name, role)
+        now = self.place(name, role)
         at_rest = first and now and (first.x, first.y, first.width) == (now.x, now.y, now.width)
         return now if at_rest else None
 
-    def _place(self, name, role):
+    def place(self, name, role=None):
+        """Where a control stands on the screen; None when there is none."""
         control = self.find(name, role)
         try:
             return control and self._atspi.Component.get_extents(control, self._atspi.CoordType.SCREEN)
