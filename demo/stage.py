@@ -186,6 +186,27 @@ def video_ads(folder):
         write_ini(folder / name / "adinfo.ini", {"AdInfo": info})
 
 
+# What the web feed of the demo shows: a page on the disk, so that it needs no network.
+BOARD = """<!DOCTYPE html><html><head><meta charset="utf-8"><title>Town board</title></head>
+<body style="margin:0;font-family:sans-serif;background:#f4efe2;color:#203040">
+<h1 style="margin:0;padding:24px;background:#1c5a8a;color:white">Town board</h1>
+<ul style="font-size:28px;line-height:1.8">
+<li>Harbour fair: Saturday at noon</li><li>Reading hour: Wednesday at four</li><li>Market: every morning</li>
+</ul></body></html>
+"""
+
+
+def web_pages(station):
+    """The page, and where it and its window stand: below the picture. It is switched on in the menu."""
+    page = station / "Pages" / "board.html"
+    if not page.exists():
+        page.parent.mkdir()
+        page.write_text(BOARD, encoding="utf-8")
+    place = {"PageTop": 0, "PageLeft": 0, "FrmHeight": 4500, "FrmWidth": 7800, "FrmTop": 8400, "FrmLeft": 1500}
+    write_ini(station / "Page.ini", {"Town board": {"URL": str(page), **{key: str(value) for key, value in place.items()}}})
+    write_ini(station / "settings_page.ini", {"StartUpPage": {"PageName": "Town board"}})
+
+
 def main():
     program, station = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     clip_folder = station / "Media" / "Clips"
@@ -200,6 +221,7 @@ def main():
     write_ini(station / "Settings.ini", SETTINGS | above_the_picture(station / "Media"))
     write_ini(station / "Window.ini", windows())
     write_ini(station / "rss.ini", {str(row): {"Text": text, "Active": "1"} for row, text in enumerate(HEADLINES, 1)})
+    web_pages(station)
     write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))
     # A running program's file cannot be written over, but it can be replaced.
     for name in ("corvanta", "corvanta-movies", "corvanta-pages"):

@@ -37,6 +37,8 @@ DESKS = [
     ("frmLogoSett", ("Logo", "Logo settings"),
      [([("Demo", "list item"), ("logo.swf", "list item")], None, "logo-library")]),
     ("frmBreakingNewsSett", ("Breaking nws", "Settings"), [([(stage.HEADLINES[0], "table cell")], None, "news-desk")]),
+    ("frmPageSettings", ("Web feed", "Settings"),
+     [([("Town board", "list item"), ("Preview",)], None, "web-feed-desk")]),
 ]  # fmt: skip
 
 
@@ -81,6 +83,11 @@ def main():
             take(screen, "frmMid", "control-window")
             time.sleep(MOVIES_UP)
             take_place(screen, screen.window(form="frmPlayer"), "on-the-air")
+            # On a machine that is off line the station does not switch it.
+            reader.choose_entry("Web feed", "Show web feed")
+            until("the web feed", lambda: screen.window(form="FrmWeb"))
+            time.sleep(MOVIES_UP)
+            take_place(screen, screen.window(form="FrmWeb"), "web-feed")
             for row in DESKS:
                 take_desk(screen, reader, *row)
     finally:
