@@ -31,7 +31,9 @@ class PaintedPage : public QObject, public BrowserSurface, public ShowsFrames, p
   void Take(const QEvent& event) override {
     const bool isMove = event.type() == QEvent::MouseMove || event.type() == QEvent::HoverMove;
     if (!isMove) handed.push_back(event.type());
-    if (event.isPointerEvent()) place = static_cast<const QSinglePointEvent&>(event).position().toPoint();
+    if (!isMove && event.isPointerEvent()) {
+      place = static_cast<const QSinglePointEvent&>(event).position().toPoint();
+    }
   }
   // Red, and green below and to the right of that place.
   void PaintWithGreenFrom(int x, int y) { frames_.Paint(x, y); }

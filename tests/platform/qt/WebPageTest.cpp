@@ -50,8 +50,8 @@ TEST_F(WebPageTest, TheAddressUnderThePointerIsTold) {
   ASSERT_TRUE(
       IsGoodOnDisk("good(); document.body.innerHTML += '<a href=\"http://news.example/\" "
                    "style=\"position:fixed;inset:0\"></a>'"));
-  const QPointF place(40, 30);
-  const auto tell = [&] {
+  const auto tell = [&, place = QPointF(40, 30)]() mutable {
+    place.rx() = place.x() == 40 ? 41 : 40;
     dynamic_cast<TakesInput&>(*seen.surface).Take(QHoverEvent(QEvent::HoverMove, place, place, place));
     world.Pass(100ms);
     return seen.status == "http://news.example/";
@@ -60,7 +60,7 @@ TEST_F(WebPageTest, TheAddressUnderThePointerIsTold) {
 }
 
 TEST_F(WebPageTest, NoBrowserRunsBeforeTheFirstPageAndNoneAfterTheLastSurface) {
-  EXPECT_TRUE(ProcessesWith(kPageProgram).empty());
+  EXPECT_TRUE(::Until([] { return ProcessesWith(kPageProgram).empty(); })) << "of a test before this one";
   ASSERT_TRUE(IsGoodOnDisk("good()"));
   EXPECT_FALSE(ProcessesWith(kPageProgram).empty());
   EndBrowser();
@@ -96,8 +96,13 @@ TEST_F(WebPageTest, ThePointerLeavesThePage) {
       IsGoodOnDisk("good(); document.documentElement.onmouseenter = () => turn('#ffff00');"
                    " document.documentElement.onmouseleave = good"));
   auto& hands = dynamic_cast<TakesInput&>(*seen.surface);
-  hands.Take(QHoverEvent(QEvent::HoverMove, {40, 30}, {40, 30}, {0, 0}));
-  ASSERT_TRUE(seen.Shows(QColor(255, 255, 0)));
+  // A page that has only just come up does not hear the first of it.
+  const auto enters = [&](const QPointF& place) {
+    hands.Take(QHoverEvent(QEvent::HoverMove, place, place, place));
+    world.Pass(100ms);
+    return seen.picture.pixelColor(100, 50) == QColor(255, 255, 0);
+  };
+  ASSERT_TRUE(::Until([&] { return enters({40, 30}) || enters({41, 30}); }));
   hands.Take(QHoverEvent(QEvent::HoverLeave, {-1, -1}, {-1, -1}, {40, 30}));
   EXPECT_TRUE(seen.IsGood());
 }

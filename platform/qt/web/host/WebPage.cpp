@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstring>
+#include <utility>
 
 #include "platform/qt/flash/host/Lives.h"
 #include "platform/qt/web/WebWire.h"
@@ -27,9 +28,16 @@ constexpr milliseconds kFirstPause{250};
 constexpr milliseconds kLongestPause{30'000};
 constexpr milliseconds kFirstTry{2'000};
 constexpr milliseconds kUntilAnotherBegins{100};
+constexpr qint64 kLongestBlank = 500;  // milliseconds
 constexpr milliseconds kBetweenQuestions{5'000};
 constexpr int kTooManyQuestions = 4;
 constexpr QSize kFirstSize{640, 480};
+
+bool IsBlank(const QImage& picture) {
+  const auto* bytes = picture.constBits();
+  const auto size = static_cast<std::size_t>(picture.sizeInBytes());
+  return std::all_of(bytes, bytes + size, [](uchar byte) { return byte == 0xFF; });
+}
 
 }  // namespace
 
@@ -109,7 +117,11 @@ void WebPage::SetLooks(int zoom, bool sound, bool scrollBars) {
 void WebPage::ApplyZoom() { view_->setProperty("zoomFactor", zoom_ / 100.0); }
 
 void WebPage::Progress(int percent) {
-  if (percent < kSomethingIsThere || address_.isEmpty()) return;
+  if (percent >= kSomethingIsThere && !address_.isEmpty()) Begin();
+}
+
+void WebPage::Begin() {
+  if (std::exchange(isNew_, false)) sinceBegun_.start();
   begun_ = true;
   Ask();
 }
@@ -126,6 +138,7 @@ void WebPage::Hovered(const QString& address) {
 }
 
 void WebPage::Started() {
+  isNew_ = true;
   if (!address_.isEmpty()) Tell("Loading..");
 }
 
@@ -139,9 +152,8 @@ void WebPage::Stopped() {
 void WebPage::Ended(bool succeeded) {
   if (address_.isEmpty()) return;
   ApplyZoom();
-  begun_ = true;
   picture_ = {};
-  Ask();
+  Begin();
   if (succeeded) {
     pauseOfTry_ = kFirstTry;
   } else {
@@ -185,6 +197,8 @@ void WebPage::Paint() {
   if (!Lives(view_->property("renderProcessPid").toLongLong())) return;
   const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
   if (picture.size() != frames_->Size()) return Ask();
+  // The ground comes before the page; a page that is blank is believed after a while.
+  if (!sinceBegun_.hasExpired(kLongestBlank) && IsBlank(picture)) return Ask();
   if (!Changed(picture)) return;
   const auto stride = static_cast<std::size_t>(frames_->Stride());
   uchar* to = frames_->Paint();

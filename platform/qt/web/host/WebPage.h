@@ -51,6 +51,7 @@ class WebPage : public QObject {
   void Started();
   void Stopped();
   void Ended(bool succeeded);
+  void Begin();
   void Died();
   void SeeWhetherItAnswers();
   void Ask();
@@ -67,6 +68,8 @@ class WebPage : public QObject {
   int zoom_ = 100;
   QString status_;      // told last of this page
   bool begun_ = false;  // something of the page can be seen
+  bool isNew_ = true;   // nothing of this load can be seen yet
+  QElapsedTimer sinceBegun_;
   QImage picture_;      // the last one
   QTimer due_;
   QElapsedTimer sincePainted_;
