@@ -18,6 +18,7 @@ constexpr EmptyTextRow kTexts[] = {
     {"frmLeftSideAdSett", "File", "Click a category, then press \"Browse\" and choose a movie."},
     {"frmLogoSett", "FolderList", "Press \"Add new cetagory\" to make the first one."},
     {"frmLogoSett", "FileList", "Choose a category, then press \"Browse\" and choose a movie or a picture."},
+    {"frmPageSettings", "listPage", "Press \"Add page\" to make the first one."},
     {"frmPlaylist", "FilePlaylist", "Press \"Add new playlist\" to make the first one."},
     {"frmPlaylist", "ListPlay", "Choose a playlist, then select a file below and press \"Add\"."},
     {"frmPlaylist", "FileList", "Press \"Browse\" and choose a folder with videos."},

@@ -41,9 +41,6 @@ constexpr IconRow kControls[] = {
     {"", "cmdRemove", "edit-delete"},
     {"", "imgPlay", "media-playback-start"},
     {"", "imgStop", "media-playback-stop"},
-    {"FrmPageSettings", "vkCommand3", "application-exit"},
-    {"FrmPageSettings", "vkCommand4", "view-preview"},
-    {"FrmPageSettings", "vkCommand5", "dialog-ok-apply"},
     {"frmAbout", "btnLoadScorl", "dialog-ok"},
     {"frmAdSett", "LoadAd", "document-save"},
     {"frmAdSett", "btnPlay", "media-playback-stop"},
@@ -97,6 +94,15 @@ constexpr IconRow kControls[] = {
     {"frmOnlineTV", "ThemedButton4", "list-add"},
     {"frmOnlineTV", "ThemedButton5", "media-playback-start"},
     {"frmOnlineTV", "ThemedButton6", "media-playback-stop"},
+    {"frmPageSettings", "btnLocation_0", "go-previous"},
+    {"frmPageSettings", "btnLocation_1", "go-next"},
+    {"frmPageSettings", "btnLocation_2", "go-up"},
+    {"frmPageSettings", "btnLocation_3", "go-down"},
+    {"frmPageSettings", "vkCommand1", "dialog-information"},
+    {"frmPageSettings", "vkCommand2", "zoom-in"},
+    {"frmPageSettings", "vkCommand3", "application-exit"},
+    {"frmPageSettings", "vkCommand4", "view-preview"},
+    {"frmPageSettings", "vkCommand5", "dialog-ok-apply"},
     {"frmPlaylist", "ThemedButton1", "go-home"},
     {"frmPlaylist", "vkCommand2", "list-add"},
     {"frmPlaylist", "vkCommand3", "edit-delete"},
@@ -161,8 +167,9 @@ QIcon IconOf(const QString& form, const QString& control) {
   static const QRegularExpression member("_\\d+$");
   const QString name = QString(control).remove(member);
   for (const QString& owner : {form, QString()}) {
-    const auto row = std::ranges::find_if(
-        kControls, [&](const IconRow& candidate) { return owner == candidate.form && name == candidate.control; });
+    const auto row = std::ranges::find_if(kControls, [&](const IconRow& candidate) {
+      return owner == candidate.form && (name == candidate.control || control == candidate.control);
+    });
     if (row != std::end(kControls)) return KeptIcon(row->icon);
   }
   return {};
