@@ -69,7 +69,7 @@ TEST_F(LayoutsTest, NoTwoControlsShareAKey) {
     for (const QAbstractButton* button : WindowOf(*form).Widget().findChildren<QAbstractButton*>()) {
       const QString key = button->shortcut().toString();
       if (key.isEmpty()) continue;
-      const QString both = button->objectName() + " and " + taken[key];
+      const QString both = button->objectName() + " and " + taken.value(key);
       EXPECT_TRUE(!taken.contains(key) || kept.contains(both)) << qPrintable(both + ": " + key);
       taken[key] = button->objectName();
     }

@@ -63,6 +63,9 @@ TEST_F(OwnControlsTest, PartsAreLookedUpInsideTheirOwnControl) {
 TEST_F(OwnControlsTest, ATimeIsPickedAndTyped) {
   EXPECT_EQ(Box(form.First.CmbMM).currentText(), "00");
   EXPECT_EQ(Box(form.First.CmbMM).count(), 59);
+  WindowOf(form).Widget().activateWindow();
+  Box(form.First.CmbHH).setFocus();
+  Settle();
   QTest::keyClick(&Box(form.First.CmbHH), Qt::Key_Up);
   EXPECT_EQ(form.First.GetTime(), "11:00:00 AM");
   Box(form.First.cmbSS).setFocus();
@@ -127,8 +130,9 @@ TEST_F(OwnControlsTest, KeysAreTheControlsWhileItHasTheKeyboardItself) {
   QTest::keyClicks(&Surface(form.Page), "b");
   QTest::keyClick(&Surface(form.Page), Qt::Key_F5);
   QTest::keyClick(&Surface(form.Page), Qt::Key_Left);
-  ASSERT_FALSE(told.empty());
-  EXPECT_EQ(told.front(), "KeyDown 66 2");
+  ASSERT_GE(told.size(), 6U);
+  EXPECT_EQ(told[0], "KeyDown 17 2") << "Ctrl is a key, too";
+  EXPECT_EQ(told[1], "KeyDown 66 2");
   EXPECT_EQ(Lines(told.end() - 4, told.end()), (Lines{"KeyDown 66 0", "98", "KeyDown 116 0", "KeyDown 37 0"}));
   told.clear();
   Shown<QFrame>(form.Page.Web).setFocus();
