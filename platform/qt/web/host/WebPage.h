@@ -70,7 +70,7 @@ class WebPage : public QObject {
   bool begun_ = false;  // something of the page can be seen
   bool isNew_ = true;   // nothing of this load can be seen yet
   QElapsedTimer sinceBegun_;
-  QImage picture_;      // the last one
+  QImage picture_;  // the last one
   QTimer due_;
   QElapsedTimer sincePainted_;
   QTimer comeBack_;
