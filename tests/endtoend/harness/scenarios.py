@@ -3,6 +3,7 @@
 import pathlib
 import re
 import shutil
+import subprocess
 import sys
 import traceback
 
@@ -43,13 +44,19 @@ def main():
         return
     if not corvanta_is_built():
         sys.exit("The program is not built yet: cmake --build --preset release")
+    names = sys.argv[1:] or list(_scenarios)
     try:
-        failed = [name for name in sys.argv[1:] or _scenarios if not _plays(name)]
+        failed = [name for name in names if not (_plays(name) if len(names) == 1 else _plays_alone(name))]
     except Skipped as reason:
         print(f"Skipped: {reason}")
         sys.exit(SKIPPED)
     if failed:
         sys.exit(f"Failed: {', '.join(failed)}")
+
+
+def _plays_alone(name):
+    """In a process of its own: what reads the screen stays with the first desk that it has seen."""
+    return subprocess.run([sys.executable, "-B", sys.argv[0], name]).returncode in (0, SKIPPED)
 
 
 def _plays(name):
