@@ -55,6 +55,15 @@ TEST_F(WebSafetyTest, APageThatLoadsForEverIsSeenAsFarAsItHasComeAndAnotherFollo
   EXPECT_TRUE(::Until([&] { return seen.loads == 1; }));
 }
 
+TEST_F(WebSafetyTest, APageThatNeverAnswersLeavesWhatWasThereBefore) {
+  ASSERT_TRUE(IsGoodOnNet("good()"));
+  server.PutNothing("/never");
+  seen.surface->Navigate(server.Address("/never"));
+  ASSERT_TRUE(::Until([&] { return server.asked["/never"] == 1; }));
+  world.Pass(8s);
+  EXPECT_TRUE(seen.IsGood());
+}
+
 TEST_F(WebSafetyTest, APageThatIsNeverIdleHoldsNothingUpAndIsLoadedAgain) {
   SeenPage other(world.world.browser);
   ASSERT_TRUE(IsGoodOnNet("good(); setTimeout(() => { for (;;); }, 200)"));
@@ -62,6 +71,16 @@ TEST_F(WebSafetyTest, APageThatIsNeverIdleHoldsNothingUpAndIsLoadedAgain) {
   other.surface->Navigate(FileAddress(File("site/page.html", kGood)));
   EXPECT_TRUE(other.IsGood());
   EXPECT_TRUE(::Until([&] { return seen.loads == 2; }));
+}
+
+TEST_F(WebSafetyTest, APageThatIsNeverIdleIsLeftForAnotherOfItsServer) {
+  ASSERT_TRUE(IsGoodOnNet("good(); setTimeout(() => { for (;;); }, 200)"));
+  ASSERT_TRUE(::Until([&] { return seen.loads == 1; }));
+  world.Pass(500ms);
+  server.Put("/other", PageWith("turn('#00ffff')"));
+  seen.surface->Navigate(server.Address("/other"));
+  EXPECT_TRUE(seen.Shows(QColor(0, 255, 255)));
+  EXPECT_EQ(server.asked["/page"], 1);
 }
 
 TEST_F(WebSafetyTest, APageOfTheDiskReachesItsOwnFolderAlone) {

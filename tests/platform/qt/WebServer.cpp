@@ -55,6 +55,8 @@ void WebServer::PutEndless(const std::string& path, const std::string& beginning
   endless_[path] = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nCache-Control: no-store\r\n\r\n" + beginning;
 }
 
+void WebServer::PutNothing(const std::string& path) { endless_[path].clear(); }
+
 std::string WebServer::Address(const std::string& path) const {
   const char* scheme = kind_ == Kind::kPlain ? "http" : "https";
   return std::string(scheme) + "://127.0.0.1:" + std::to_string(port_) + path;

@@ -17,6 +17,8 @@ class WebServer {
   void Put(const std::string& path, const std::string& body, const std::string& head = "Content-Type: text/html");
   // The answer begins with this, and never ends.
   void PutEndless(const std::string& path, const std::string& beginning);
+  // No answer ever comes.
+  void PutNothing(const std::string& path);
   std::string Address(const std::string& path) const;
   // Nobody answers there any more; and somebody does again.
   void Close();

@@ -97,13 +97,23 @@ void WebPage::Open(const QUrl& address) {
   status_.clear();
   gate_.Open(address);
   if (address.isEmpty()) begun_ = false;
-  view_->setProperty("url", address.isEmpty() ? QUrl("about:blank") : address);
+  Go();
 }
 
+void WebPage::Go() {
+  arrived_ = false;
+  view_->setProperty("url", address_.isEmpty() ? QUrl("about:blank") : address_);
+}
+
+// What the browser would reload is the page before, as long as nothing has come of this one.
 void WebPage::Reload() {
   tryAgain_.stop();
   sinceBack_.start();
-  QMetaObject::invokeMethod(view_, "reload");
+  if (arrived_) {
+    QMetaObject::invokeMethod(view_, "reload");
+  } else {
+    Go();
+  }
 }
 
 void WebPage::SetLooks(int zoom, bool sound, bool scrollBars) {
@@ -117,11 +127,12 @@ void WebPage::SetLooks(int zoom, bool sound, bool scrollBars) {
 void WebPage::ApplyZoom() { view_->setProperty("zoomFactor", zoom_ / 100.0); }
 
 void WebPage::Progress(int percent) {
-  if (percent >= kSomethingIsThere && !address_.isEmpty()) Begin();
+  if (percent >= kSomethingIsThere && !address_.isEmpty() && !comeBack_.isActive()) Begin();
 }
 
 void WebPage::Begin() {
   if (std::exchange(isNew_, false)) sinceBegun_.start();
+  arrived_ = true;
   begun_ = true;
   Ask();
 }
@@ -149,8 +160,9 @@ void WebPage::Stopped() {
   });
 }
 
+// A load that ends with its renderer is told as one that has come whole and failed.
 void WebPage::Ended(bool succeeded) {
-  if (address_.isEmpty()) return;
+  if (address_.isEmpty() || comeBack_.isActive()) return;
   ApplyZoom();
   picture_ = {};
   Begin();

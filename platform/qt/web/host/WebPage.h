@@ -44,6 +44,7 @@ class WebPage : public QObject {
   void Take(const QCborArray& input);
 
  private:
+  void Go();
   void ApplyZoom();
   void Progress(int percent);
   void Tell(const QString& status);
@@ -66,9 +67,10 @@ class WebPage : public QObject {
   std::shared_ptr<SharedFrames> frames_;
   QUrl address_;
   int zoom_ = 100;
-  QString status_;      // told last of this page
-  bool begun_ = false;  // something of the page can be seen
-  bool isNew_ = true;   // nothing of this load can be seen yet
+  QString status_;        // told last of this page
+  bool arrived_ = false;  // something of what was opened last has come
+  bool begun_ = false;    // something of the page can be seen
+  bool isNew_ = true;     // nothing of this load can be seen yet
   QElapsedTimer sinceBegun_;
   QImage picture_;  // the last one
   QTimer due_;
