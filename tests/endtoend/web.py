@@ -6,7 +6,7 @@ import signal
 import time
 
 from harness import ini, media
-from harness.pages import FIELD, Pages, colour_at
+from harness.pages import BAD, ENDLESS, FIELD, NEVER, Pages, colour_at
 from harness.patience import throughout, until
 from harness.processes import command_of, is_there, tree_of
 from harness.reader import Reader
@@ -176,6 +176,31 @@ def a_page_comes_back_when_what_shows_it_is_killed(desk):
             until(f"the page to be asked for again after the end of its {what}", lambda: len(pages.asked) > asked, BROWSER)
             await_page(station)
             assert_programme_runs(station)
+
+
+@scenario
+def no_page_holds_up_the_station_or_the_page_behind_it(desk):
+    require_network()
+    with Pages() as pages:
+        station = station_with_page(desk, pages.address)
+        bad = {path.strip("/"): path for path in (NEVER, ENDLESS, *BAD)}
+        with open(station.folder / "Page.ini", "a", newline="") as file:
+            for name, path in bad.items():
+                file.write(f"[{name}]\r\nURL={pages.at(path)}\r\nFrmTop=5000\r\n")
+        station.start_on_air()
+        await_page(station)
+        reader = open_desk(station)
+        shown = {window.number for window in desk.screen.windows()}
+        for name, path in bad.items():
+            reader.press(name, "list item")
+            reader.press("Load")
+            until(f"the page {name} to be asked for", lambda: path in pages.asked, BROWSER)
+            time.sleep(3)
+            assert_programme_runs(station)
+            assert {window.number for window in desk.screen.windows()} == shown, f"what does {name} show?"
+            reader.press("board", "list item")
+            reader.press("Load")
+            await_page(station)
 
 
 def answer_yes_to_ctrl_x(desk, station):
