@@ -55,6 +55,7 @@ frmPlayer::frmPlayer(Station& station)
   Player.stretchToFit = true;
   PlayerOnline.stretchToFit = true;
   PlayerOnline.settings.volume = 100;
+  PlayerOnline.takesLiveUpAgain = true;
 
   Timer1.Tick.Connect([this] { Timer1_Tick(); });
   Timer2.Tick.Connect([this] { Timer2_Tick(); });

@@ -28,12 +28,21 @@ class MediaListener {
 // True of an address with a scheme, such as "http://host/live"; anything else is a path.
 bool IsAddress(std::string_view url);
 
+// What a text names that a player is given.
+enum class MediaSource {
+  kPath,         // no address
+  kFileAddress,  // "file://..."
+  kStream,       // http, https (HLS too), rtsp, rtmp, mms, rtp, udp or srt; the case of a scheme means nothing
+  kRefused,      // an address of any other scheme: no player opens it
+};
+MediaSource SourceOf(std::string_view url);
+
 // How long a picture stands as an item before it ends.
 inline constexpr int kPictureSeconds = 5;
 
 // One player with its picture surface; one instance lasts as long as the surface. It plays video, audio and pictures
-// alike: a picture ends after kPictureSeconds. What cannot be played (absent, no media, not a regular file)
-// raises nothing at all: the state just never becomes kMediaEnded.
+// alike: a picture ends after kPictureSeconds. What cannot be played (absent, no media, not a regular file, an
+// address that is refused) becomes kReady, and never kMediaEnded.
 class MediaPlayer {
  public:
   virtual ~MediaPlayer() = default;
@@ -54,10 +63,12 @@ class MediaPlayer {
   virtual double Position() const = 0;
   // Seeks. Before the file is open the wish is kept and carried out when it is. Beyond the end: the item ends.
   virtual void SetPosition(double seconds) = 0;
-  // Seconds; 0 when it is not known (nothing open yet, or a stream without an end).
+  // Seconds; 0 when it is not known (nothing open yet, or a stream without an end). A player that does not take streams
+  // up again may give one without an end the duration of what has come of it.
   virtual double Duration() const = 0;
   virtual PlayState State() const = 0;
-  // The state in words, for the operator: "Playing", "Connecting...", "Buffering", "Stopped", "Paused", "Finished", "".
+  // The state in words, for the operator: "Playing", "Connecting...", "Buffering", "Stopped", "Paused", "Finished",
+  // "Cannot be played"; "" where there is nothing to play.
   std::string Status() const;
   // The present item has been opened. It stays so behind its end and behind a stop, with its duration, until another
   // is opened or it is closed.
@@ -67,6 +78,10 @@ class MediaPlayer {
   virtual void SetVolume(int percent) = 0;  // 0 to 100
   // Small pictures are scaled up to the surface, in their own proportions; large ones are always scaled down to it.
   virtual void SetStretchToFit(bool stretch) = 0;
+  // Whether a stream without an end, which breaks, stands still for kLivePatience or cannot be had, is taken up again
+  // until it is stopped or another item is opened. It is kReady in the pauses (LivePauses) and kTransitioning in each
+  // attempt, and never kMediaEnded. Off at first; to be told before the first Open.
+  virtual void SetTakesLiveUpAgain(bool takes) = 0;
 };
 
 // Makes the players.

@@ -21,6 +21,19 @@ SimPlayer* SimMedia::Find(const std::string& name) const {
   return found == players_.end() ? nullptr : found->second;
 }
 
+void SimMedia::Break(const std::string& url) {
+  WillNotLoad(url);
+  EachThatPlays(url, &SimPlayer::Break);
+}
+
+void SimMedia::Stall(const std::string& url) { EachThatPlays(url, &SimPlayer::Stall); }
+
+void SimMedia::EachThatPlays(const std::string& url, void (SimPlayer::*fault)()) {
+  for (const auto& [name, player] : players_) {
+    if (player->url_ == url && player->IsRunning()) (player->*fault)();
+  }
+}
+
 SimPlayer::SimPlayer(SimMedia& media, std::string name, MediaListener& listener)
     : media_(media), name_(std::move(name)), listener_(listener) {
   media_.players_[name_] = this;
@@ -32,8 +45,20 @@ SimPlayer::~SimPlayer() {
 }
 
 bool SimPlayer::MayBeOpened() const {
-  return IsAddress(url_) || (media_.files_.Resolve(url_) == url_ && media_.files_.Kind(url_) == FileKind::kRegular);
+  switch (SourceOf(url_)) {
+    case MediaSource::kStream:
+      return true;
+    case MediaSource::kRefused:
+      return false;
+    case MediaSource::kFileAddress:
+      return media_.files_.Kind(url_.substr(url_.find("://") + 3)) == FileKind::kRegular;
+    case MediaSource::kPath:
+      break;
+  }
+  return media_.files_.Resolve(url_) == url_ && media_.files_.Kind(url_) == FileKind::kRegular;
 }
+
+bool SimPlayer::TakesUp() const { return takesUp_ && SourceOf(url_) == MediaSource::kStream && Length() == 0; }
 
 void SimPlayer::Open(const std::string& url) {
   StopWaiting();
@@ -41,6 +66,7 @@ void SimPlayer::Open(const std::string& url) {
   url_ = url;
   opened_ = false;
   position_ = 0;
+  pauses_.Reset();
   if (MayBeOpened()) {
     Load();
   } else {
@@ -49,26 +75,54 @@ void SimPlayer::Open(const std::string& url) {
 }
 
 void SimPlayer::Load() {
+  StopWaiting();
   paused_ = false;
   Enter(PlayState::kTransitioning);
-  Wait(media_.openingTime, &SimPlayer::Loaded);
+  const bool isSilent = media_.silent_.contains(url_);
+  if (TakesUp() && (isSilent || media_.openingTime > kLivePatience)) {
+    Wait(kLivePatience, &SimPlayer::Break);
+  } else if (!isSilent) {
+    Wait(media_.openingTime, &SimPlayer::Loaded);
+  }
+}
+
+void SimPlayer::Break() {
+  StopWaiting();
+  position_ = 0;
+  if (TakesUp()) {
+    Enter(PlayState::kReady);
+    Wait(pauses_.Next(), &SimPlayer::Load);
+  } else {
+    Enter(opened_ ? PlayState::kMediaEnded : PlayState::kReady);
+  }
+}
+
+void SimPlayer::Stall() {
+  position_ = Position();
+  StopWaiting();
+  Enter(PlayState::kBuffering);
+  if (TakesUp()) Wait(kLivePatience, &SimPlayer::Break);
 }
 
 void SimPlayer::Loaded() {
-  if (media_.broken_.contains(url_)) return Enter(PlayState::kReady);
+  if (media_.broken_.contains(url_)) {
+    if (TakesUp()) return Break();
+    return Enter(PlayState::kReady);
+  }
   opened_ = true;
   since_ = media_.time_.Steady();
   listener_.MediaChanged();
   // The listener may have opened something else.
   if (!opened_ || state_ != PlayState::kTransitioning) return;
   if (paused_) return Enter(PlayState::kPaused);
+  pauses_.Reset();
   WaitForEnd();
   Enter(PlayState::kPlaying);
 }
 
 void SimPlayer::WaitForEnd() {
   StopWaiting();
-  if (Duration() > 0) Wait(std::max(nanoseconds(1), Nanoseconds(Duration() - position_)), &SimPlayer::Ended);
+  if (Length() > 0) Wait(std::max(nanoseconds(1), Nanoseconds(Length() - position_)), &SimPlayer::Ended);
 }
 
 void SimPlayer::Ended() {
@@ -82,14 +136,14 @@ void SimPlayer::Play() {
     since_ = media_.time_.Steady();
     WaitForEnd();
     Enter(PlayState::kPlaying);
-  } else if (state_ != PlayState::kPlaying && state_ != PlayState::kTransitioning && MayBeOpened()) {
+  } else if (!IsRunning() && state_ != PlayState::kTransitioning && MayBeOpened()) {
     Load();
   }
 }
 
 void SimPlayer::Pause() {
   if (state_ == PlayState::kTransitioning) paused_ = true;
-  if (state_ != PlayState::kPlaying) return;
+  if (!IsRunning()) return;
   position_ = Position();
   StopWaiting();
   Enter(PlayState::kPaused);
@@ -97,8 +151,8 @@ void SimPlayer::Pause() {
 
 void SimPlayer::Stop() {
   media_.trace_.Add(name_ + " stop");
-  const bool nothingBegan =
-      state_ == PlayState::kUndefined || state_ == PlayState::kReady || state_ == PlayState::kStopped;
+  const bool isLeft = state_ == PlayState::kReady && waiting_ == 0;  // in a pause it is not
+  const bool nothingBegan = state_ == PlayState::kUndefined || isLeft || state_ == PlayState::kStopped;
   if (nothingBegan) return;
   StopWaiting();
   position_ = 0;
@@ -119,6 +173,11 @@ void SimPlayer::SetPosition(double seconds) {
 }
 
 double SimPlayer::Duration() const {
+  const double length = Length();
+  return length == 0 && opened_ && !takesUp_ ? Position() : length;
+}
+
+double SimPlayer::Length() const {
   if (!opened_) return 0;
   const auto known = media_.durations_.find(url_);
   return known == media_.durations_.end() ? 10 : known->second;

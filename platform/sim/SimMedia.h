@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/LivePauses.h"
 #include "platform/Media.h"
 #include "platform/sim/SimTime.h"
 #include "platform/sim/SimTrace.h"
@@ -13,7 +14,7 @@
 class SimPlayer;
 
 // Players that "play" by the virtual clock. A file that the virtual disk has under that very name opens after a
-// moment, plays for its duration and ends; so does an address with a scheme.
+// moment, plays for its duration and ends; so does an address that is not refused.
 class SimMedia : public MediaEngine {
  public:
   SimMedia(SimTime& time, Files& files, SimTrace& trace) : time_(time), files_(files), trace_(trace) {}
@@ -25,6 +26,13 @@ class SimMedia : public MediaEngine {
 
   // The fault: this one will not load.
   void WillNotLoad(const std::string& path) { broken_.insert(path); }
+  // The fault: a stream breaks, and cannot be had until it is mended.
+  void Break(const std::string& url);
+  // The fault: nothing more comes of a stream, whose connection stays.
+  void Stall(const std::string& url);
+  void Mend(const std::string& url) { broken_.erase(url); }
+  // The fault: a stream is there, and never answers.
+  void NeverAnswers(const std::string& url) { silent_.insert(url); }
   // How long a file takes to open.
   std::chrono::milliseconds openingTime{20};
 
@@ -34,11 +42,14 @@ class SimMedia : public MediaEngine {
  private:
   friend class SimPlayer;
 
+  void EachThatPlays(const std::string& url, void (SimPlayer::*fault)());
+
   SimTime& time_;
   Files& files_;
   SimTrace& trace_;
   std::map<std::string, double> durations_;
   std::set<std::string> broken_;
+  std::set<std::string> silent_;
   std::map<std::string, SimPlayer*> players_;
 };
 
@@ -59,6 +70,7 @@ class SimPlayer : public MediaPlayer {
   void SetMute(bool mute) override { mute_ = mute; }
   void SetVolume(int percent) override { volume_ = percent; }
   void SetStretchToFit(bool stretch) override { stretch_ = stretch; }
+  void SetTakesLiveUpAgain(bool takes) override { takesUp_ = takes; }
 
   const std::string& Url() const { return url_; }
   bool Mute() const { return mute_; }
@@ -66,10 +78,19 @@ class SimPlayer : public MediaPlayer {
   bool StretchToFit() const { return stretch_; }
 
  private:
+  friend class SimMedia;
+
   bool MayBeOpened() const;
+  bool IsRunning() const { return state_ == PlayState::kPlaying || state_ == PlayState::kBuffering; }
+  // The item is a stream, without an end as far as is known, that is taken up again.
+  bool TakesUp() const;
+  // Seconds; 0 without an end.
+  double Length() const;
   void Load();
   void Loaded();
   void Ended();
+  void Break();
+  void Stall();
   void Enter(PlayState state);
   void Wait(std::chrono::nanoseconds duration, void (SimPlayer::*next)());
   void WaitForEnd();
@@ -85,6 +106,8 @@ class SimPlayer : public MediaPlayer {
   bool mute_ = false;
   int volume_ = 50;
   bool stretch_ = false;
+  bool takesUp_ = false;
+  LivePauses pauses_;
   double position_ = 0;  // when the clock read `since_`
   std::chrono::nanoseconds since_{0};
   Scheduler::Id waiting_ = 0;

@@ -36,9 +36,13 @@ void PlayerControl::Start() {
   const auto applyStretch = [this] {
     if (player_) player_->SetStretchToFit(stretchToFit);
   };
+  const auto applyTakingUp = [this] {
+    if (player_) player_->SetTakesLiveUpAgain(takesLiveUpAgain);
+  };
   settings.mute.Changed.Connect(applyMute);
   settings.volume.Changed.Connect(applyVolume);
   stretchToFit.Changed.Connect(applyStretch);
+  takesLiveUpAgain.Changed.Connect(applyTakingUp);
   applyMute();
   applyVolume();
   applyStretch();

@@ -58,6 +58,8 @@ class PlayerControl : public Control, private MediaListener {
   Settings settings;
 
   Property<bool> stretchToFit{false};
+  // See MediaPlayer::SetTakesLiveUpAgain.
+  Property<bool> takesLiveUpAgain{false};
 
   Event<> PlayStateChange;
   Event<> CurrentMediaChange;

@@ -91,4 +91,9 @@ void MpvInstance::Ask(const char* property, mpv_format format, std::uint64_t tic
   mpv_get_property_async(mpv_, ticket, property, format);
 }
 
+void MpvInstance::HoldOpened() { mpv_hook_add(mpv_, 0, mpv_names::kOpened, 0); }
+
+// While it holds an item mpv does nothing but wait for this call, so it is taken at once.
+void MpvInstance::GoOn(std::uint64_t hook) { mpv_hook_continue(mpv_, hook); }
+
 mpv_event& MpvInstance::NextEvent() { return *mpv_wait_event(mpv_, 0); }

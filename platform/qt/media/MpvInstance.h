@@ -30,6 +30,10 @@ class MpvInstance {
   void Set(const char* property, const char* value);
   void Observe(const char* property, mpv_format format);
   void Ask(const char* property, mpv_format format, std::uint64_t ticket);
+  // From the next item on each one waits, opened and with nothing of it read, from its MPV_EVENT_HOOK until GoOn with
+  // the event's number. To be called before the first item.
+  void HoldOpened();
+  void GoOn(std::uint64_t hook);
   // The next event; MPV_EVENT_NONE when there is none.
   mpv_event& NextEvent();
 

@@ -13,6 +13,7 @@ inline constexpr char kTimePos[] = "time-pos";
 inline constexpr char kDuration[] = "duration";
 inline constexpr char kPausedForCache[] = "paused-for-cache";
 inline constexpr char kVideoUnscaled[] = "video-unscaled";
+inline constexpr char kOpened[] = "on_preloaded";  // a hook
 inline constexpr char kPictureDuration[] = "image-display-duration";
 
 // A player is a surface and nothing else: it reads no configuration, takes no keys, draws no controls, and stays alive

@@ -12,22 +12,28 @@
 
 namespace {
 
-// Opening a pipe or a device would wait for somebody to write to it, perhaps for ever.
-bool MayBeOpened(const std::string& url) {
-  std::string path = url;
-  if (url.starts_with("file://")) {
-    path = QUrl(QString::fromStdString(url)).toLocalFile().toStdString();
-  } else if (IsAddress(url)) {
-    return true;
-  }
-  std::error_code failed;
-  return std::filesystem::is_regular_file(path, failed);
+std::string PathOf(const std::string& url) {
+  if (SourceOf(url) == MediaSource::kPath) return url;
+  return QUrl(QString::fromStdString(url)).toLocalFile().toStdString();
 }
 
-// mpv reads some names as addresses of its own; a name that begins with the root never is one.
-std::string ForMpv(const std::string& url) {
+// Opening a pipe or a device would wait for somebody to write to it, perhaps for ever.
+bool MayBeOpened(const std::string& url) {
+  const MediaSource source = SourceOf(url);
+  if (source == MediaSource::kStream || source == MediaSource::kRefused) return source == MediaSource::kStream;
   std::error_code failed;
-  return IsAddress(url) ? url : std::filesystem::absolute(url, failed).string();
+  return std::filesystem::is_regular_file(PathOf(url), failed);
+}
+
+// mpv reads some names as addresses of its own; a name that begins with the root never is one. Schemes it knows in
+// small letters.
+std::string ForMpv(const std::string& url) {
+  if (SourceOf(url) == MediaSource::kStream) {
+    const std::size_t end = url.find("://");
+    return QString::fromStdString(url.substr(0, end)).toLower().toStdString() + url.substr(end);
+  }
+  std::error_code failed;
+  return std::filesystem::absolute(PathOf(url), failed).string();
 }
 
 // With a decimal point, whatever the language of the desktop. Further than any item is long is far enough.
@@ -49,7 +55,12 @@ std::optional<std::int64_t> EntryOf(const mpv_node& result) {
 
 }  // namespace
 
-MpvPlayer::MpvPlayer(MediaListener& listener) : listener_(listener) {}
+MpvPlayer::MpvPlayer(MediaListener& listener) : listener_(listener) {
+  pause_.setSingleShot(true);
+  still_.setSingleShot(true);
+  connect(&pause_, &QTimer::timeout, this, &MpvPlayer::Load);
+  connect(&still_, &QTimer::timeout, this, &MpvPlayer::Break);
+}
 
 MpvPlayer::~MpvPlayer() = default;
 
@@ -68,6 +79,7 @@ bool MpvPlayer::HasInstance() {
     TellFault(name, fault.what());
     return false;
   }
+  if (takesUp_) mpv_->HoldOpened();
   mpv_->Observe(mpv_names::kTimePos, MPV_FORMAT_DOUBLE);
   mpv_->Observe(mpv_names::kDuration, MPV_FORMAT_DOUBLE);
   mpv_->Observe(mpv_names::kPausedForCache, MPV_FORMAT_FLAG);
@@ -82,8 +94,9 @@ void MpvPlayer::Open(const std::string& url) {
   ++item_;
   url_ = url;
   wish_.reset();
-  opened_ = false;
+  opened_ = finite_ = false;
   duration_ = 0;
+  pauses_.Reset();
   if (MayBeOpened(url)) {
     Load();
     return;
@@ -93,15 +106,14 @@ void MpvPlayer::Open(const std::string& url) {
 }
 
 void MpvPlayer::Load() {
-  if (!HasInstance()) {
-    Enter(PlayState::kReady);
-    return;
-  }
+  if (!HasInstance()) return TakesUp() ? Break() : Enter(PlayState::kReady);
   paused_ = false;
+  pause_.stop();
   mpv_->Set(mpv_names::kPause, false);
   loadTicket_ = ++lastTicket_;
   mpv_->Command({"loadfile", ForMpv(url_), "replace"}, loadTicket_);
   Enter(PlayState::kTransitioning);
+  WatchStandstill();  // the former item may have been at the same point
 }
 
 // From here on nothing that mpv still has to tell of the item counts.
@@ -110,11 +122,23 @@ void MpvPlayer::Forget() {
   entries_ = {};
   current_ = open_ = running_ = buffering_ = seekQueued_ = false;
   position_ = 0;
+  pause_.stop();
+  still_.stop();
   frames_.SetLive(false);
 }
 
 void MpvPlayer::Close() {
   if (mpv_) mpv_->Command({"stop"});
+}
+
+bool MpvPlayer::TakesUp() const { return takesUp_ && !finite_ && SourceOf(url_) == MediaSource::kStream; }
+
+void MpvPlayer::Break() {
+  Forget();
+  wish_.reset();
+  Close();
+  Enter(PlayState::kReady);
+  pause_.start(pauses_.Next());
 }
 
 void MpvPlayer::Play() {
@@ -135,7 +159,7 @@ void MpvPlayer::Pause() {
 }
 
 void MpvPlayer::Stop() {
-  if (loadTicket_ == 0 && state_ != PlayState::kMediaEnded) return;
+  if (loadTicket_ == 0 && state_ != PlayState::kMediaEnded && !pause_.isActive()) return;
   Forget();
   wish_.reset();
   Close();
@@ -176,11 +200,21 @@ void MpvPlayer::SetStretchToFit(bool stretch) {
 void MpvPlayer::Enter(PlayState state) {
   if (state == state_) return;
   state_ = state;
+  WatchStandstill();
+  if (state == PlayState::kPlaying) pauses_.Reset();
   const auto tell = [this, state, item = item_] {
     // Another item may be open by now: the end of the former one is none of its own.
     if (item == item_ || state == state_) listener_.PlayStateChanged(state);
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void MpvPlayer::WatchStandstill() {
+  if (TakesUp() && (state_ == PlayState::kTransitioning || state_ == PlayState::kBuffering)) {
+    still_.start(kLivePatience);
+  } else {
+    still_.stop();
+  }
 }
 
 void MpvPlayer::EnterPlaying() {
@@ -209,6 +243,8 @@ void MpvPlayer::Handle(const mpv_event& event) {
       return Replied(event);
     case MPV_EVENT_START_FILE:
       return Started(*static_cast<const mpv_event_start_file*>(event.data));
+    case MPV_EVENT_HOOK:
+      return Held(*static_cast<const mpv_event_hook*>(event.data));
     case MPV_EVENT_FILE_LOADED:
       return Loaded();
     case MPV_EVENT_PLAYBACK_RESTART:
@@ -240,10 +276,20 @@ void MpvPlayer::Replied(const mpv_event& event) {
       if (item == item_) listener_.MediaChanged();
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+  } else if (ticket == lengthTicket_) {
+    finite_ = event.error >= 0 && *static_cast<double*>(static_cast<const mpv_event_property*>(event.data)->data) > 0;
+    mpv_->GoOn(hook_);
   }
 }
 
 void MpvPlayer::Started(const mpv_event_start_file& start) { current_ = entries_.Hold(start.playlist_entry_id); }
+
+// Once it reads, mpv gives a stream without an end the duration of what it has read.
+void MpvPlayer::Held(const mpv_event_hook& hook) {
+  hook_ = hook.id;
+  lengthTicket_ = ++lastTicket_;
+  mpv_->Ask(mpv_names::kDuration, MPV_FORMAT_DOUBLE, lengthTicket_);
+}
 
 void MpvPlayer::Loaded() {
   if (!current_) return;
@@ -277,6 +323,7 @@ void MpvPlayer::Ended(const mpv_event_end_file& end) {
   const bool last = end.playlist_entry_id == entries_.last;
   current_ = open_ = running_ = false;
   if (!last) return;
+  if (TakesUp()) return Break();
   Forget();
   wish_.reset();
   Enter(played ? PlayState::kMediaEnded : PlayState::kReady);
@@ -288,7 +335,7 @@ void MpvPlayer::Tell(const mpv_event_property& property) {
   if (name == mpv_names::kTimePos) {
     position_ = std::max(*static_cast<double*>(property.data), 0.0);
   } else if (name == mpv_names::kDuration) {
-    duration_ = std::max(*static_cast<double*>(property.data), 0.0);
+    duration_ = TakesUp() ? 0 : std::max(*static_cast<double*>(property.data), 0.0);
   } else if (name == mpv_names::kPausedForCache) {
     buffering_ = *static_cast<int*>(property.data) != 0;
     EnterPlaying();

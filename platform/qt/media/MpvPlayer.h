@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <atomic>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "platform/LivePauses.h"
 #include "platform/Media.h"
 #include "platform/qt/media/MpvInstance.h"
 #include "platform/qt/media/PlayerFrames.h"
@@ -30,6 +32,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void SetMute(bool mute) override;
   void SetVolume(int percent) override;
   void SetStretchToFit(bool stretch) override;
+  void SetTakesLiveUpAgain(bool takes) override { takesUp_ = takes; }
 
   FrameSource& Frames() override { return frames_; }
 
@@ -46,13 +49,18 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   void Load();
   void Forget();
   void Close();
+  // The item is a stream, without an end as far as is known, that is taken up again.
+  bool TakesUp() const;
+  void Break();
   void Seek();
   void Enter(PlayState state);
+  void WatchStandstill();
   void EnterPlaying();
   void FetchEvents();
   void Handle(const mpv_event& event);
   void Replied(const mpv_event& event);
   void Started(const mpv_event_start_file& start);
+  void Held(const mpv_event_hook& hook);
   void Loaded();
   void Ended(const mpv_event_end_file& end);
   void Restarted();
@@ -70,8 +78,14 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   bool mute_ = false;
   int volume_ = 100;
   bool stretch_ = false;
+  bool takesUp_ = false;
+  LivePauses pauses_;
+  QTimer pause_{this};  // until a broken stream is taken up again
+  QTimer still_{this};  // while one stands still or comes up
 
   std::uint64_t lastTicket_ = 0;
+  std::uint64_t hook_ = 0;  // at which mpv holds an item that is open; 0: none
+  std::uint64_t lengthTicket_ = 0;
   std::uint64_t loadTicket_ = 0;  // of the load that makes the present item
   std::uint64_t durationTicket_ = 0;
   std::uint64_t seekTicket_ = 0;
@@ -79,6 +93,7 @@ class MpvPlayer : public QObject, public MediaPlayer, public ShowsFrames {
   bool current_ = false;  // the entry that mpv started last belongs to the present item
   bool opened_ = false;   // the present item has been open once
   bool open_ = false;     // mpv has it open now
+  bool finite_ = false;   // it had a duration before anything of it was read
   bool running_ = false;  // its first picture or sound is out
   bool buffering_ = false;
   bool seekQueued_ = false;  // mpv has taken the seek; the next restart is its end
