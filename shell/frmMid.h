@@ -56,6 +56,9 @@ class frmMid : public Form {
   MenuItem mnuBreakingNews{*this, "mnuBreakingNews"};
   MenuItem mnuBreakingNewsShow{*this, "mnuBreakingNewsShow"};
   MenuItem mnuBreakingNewsSettings{*this, "mnuBreakingNewsSettings"};
+  MenuItem nmuOnlineChannel{*this, "nmuOnlineChannel"};
+  MenuItem mnuTVChannel{*this, "mnuTVChannel"};
+  MenuItem nmuRadioChannel{*this, "nmuRadioChannel"};
   MenuItem mnuOutput{*this, "mnuOutput"};
   MenuItem mnuOutputWindow{*this, "mnuOutputWindow"};
   MenuItem mnuMonitor2{*this, "mnuMonitor2"};

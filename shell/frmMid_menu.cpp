@@ -7,6 +7,8 @@
 #include "ads/frmFlashAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
 #include "ads/frmVideoAdSett.h"
+#include "channels/frmOnlineRadio.h"
+#include "channels/frmOnlineTV.h"
 #include "output/frmPlayer.h"
 #include "overlay/FrmLogoShow.h"
 #include "overlay/frmBreakingNews.h"
@@ -103,9 +105,11 @@ void frmMid::ConnectMenu() {
   }
   mnuMasking.Click.Connect([this] { mnuMasking_Click(); });
 
+  enum class Needs { kNothing, kNetwork };
   const struct {
     MenuItem& entry;
     void (*show)(StationForms& forms);
+    Needs needs = Needs::kNothing;
   } forms[] = {
       {mnuPlayList, ShowForm<frmPlaylist>},
       {mnuScorlAsSettings, ShowForm<frmAdSett>},
@@ -116,14 +120,24 @@ void frmMid::ConnectMenu() {
       {mnuFlashLogo, ShowForm<frmLogoSett>},
       {MnuStikerSettings, ShowForm<frmStikerSett>},
       {mnuClockSettings, ShowForm<frmClockSett>},
+      {mnuTVChannel, ShowForm<frmOnlineTV>, Needs::kNetwork},
+      {nmuRadioChannel, ShowForm<frmOnlineRadio>, Needs::kNetwork},
       {mnuAbout2, ShowForm<frmAbout>},
       {mnuTrayAbout, ShowForm<frmAbout>},
   };
+  const auto connect = [this](MenuItem& entry, Needs needs, const std::function<void()>& act) {
+    entry.Click.Connect([this, needs, act] {
+      if (needs == Needs::kNetwork) {
+        WhenOnline(act);
+      } else {
+        act();
+      }
+    });
+  };
   for (const auto& row : forms) {
-    row.entry.Click.Connect([this, show = row.show] { show(station_.forms); });
+    connect(row.entry, row.needs, [this, show = row.show] { show(station_.forms); });
   }
 
-  enum class Needs { kNothing, kNetwork };
   const struct {
     MenuItem& entry;
     const char* path;
@@ -138,14 +152,8 @@ void frmMid::ConnectMenu() {
       {mnuQuicksupport, "\\Tools\\Tolvex.exe", Needs::kNetwork},
   };
   for (const auto& row : tools) {
-    const auto start = [this, path = station_.dataFolder.Path(row.path)] { Outside().desktop.StartTool(path); };
-    row.entry.Click.Connect([this, start, needs = row.needs] {
-      if (needs == Needs::kNetwork) {
-        WhenOnline(start);
-      } else {
-        start();
-      }
-    });
+    connect(row.entry, row.needs,
+            [this, path = station_.dataFolder.Path(row.path)] { Outside().desktop.StartTool(path); });
   }
 
   mnuWebfeedSetttings.Click.Connect([this] { WhenOnline([this] { ShowForm<frmPageSettings>(station_.forms); }); });

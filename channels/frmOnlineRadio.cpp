@@ -1,0 +1,3 @@
+#include "channels/frmOnlineRadio.h"
+
+frmOnlineRadio::frmOnlineRadio(Station& station) : ChannelForm(station, Directory::kRadio) {}

@@ -1,0 +1,3 @@
+#include "channels/frmOnlineTV.h"
+
+frmOnlineTV::frmOnlineTV(Station& station) : ChannelForm(station, Directory::kTV) {}
