@@ -26,6 +26,10 @@ class Desktop {
   virtual void TurnOffMonitor() = 0;
   // Starts a program beside the station, in its own folder; one that is named with ".exe" may stand there without.
   virtual void StartTool(const std::string& path) = 0;
+  // Open what the desktop has to set the volume, and the date and the time; nothing where it has none. The station goes
+  // on beside it.
+  virtual void OpenVolumePanel() = 0;
+  virtual void OpenDatePanel() = 0;
   // Shows the operator guide in a window.
   virtual void ShowGuide() = 0;
   // Ends the process at once; no form is unloaded. Returns in the virtual world only.

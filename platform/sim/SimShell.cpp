@@ -87,6 +87,14 @@ void SimDesktop::TurnOffMonitor() { trace_.Add("monitor off"); }
 
 void SimDesktop::StartTool(const std::string& path) { trace_.Add("tool " + path); }
 
+void SimDesktop::OpenVolumePanel() {
+  if (hasPanels) trace_.Add("volume panel");
+}
+
+void SimDesktop::OpenDatePanel() {
+  if (hasPanels) trace_.Add("date panel");
+}
+
 void SimDesktop::ShowGuide() { trace_.Add("guide"); }
 
 void SimDesktop::EndProcess() {

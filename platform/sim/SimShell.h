@@ -60,6 +60,8 @@ class SimDesktop : public Desktop {
   void ShowCursor(bool show) override;
   void TurnOffMonitor() override;
   void StartTool(const std::string& path) override;
+  void OpenVolumePanel() override;
+  void OpenDatePanel() override;
   void ShowGuide() override;
   void EndProcess() override;
 
@@ -69,6 +71,7 @@ class SimDesktop : public Desktop {
   }
 
   std::string programName = "corvanta";
+  bool hasPanels = true;
   bool taskbarVisible = true;
   int cursorCount = 0;
   bool ended = false;

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "platform/qt/desktop/AutoStart.h"
+#include "platform/qt/desktop/Panels.h"
 #include "platform/qt/desktop/Tools.h"
 #include "platform/qt/desktop/Xlib.h"
 
@@ -41,6 +42,10 @@ void QtDesktop::ShowCursor(bool show) {
 void QtDesktop::TurnOffMonitor() { screenAwake_.Darken(); }
 
 void QtDesktop::StartTool(const std::string& path) { StartDetached(path); }
+
+void QtDesktop::OpenVolumePanel() { OpenPanel(PanelOf::kVolume); }
+
+void QtDesktop::OpenDatePanel() { OpenPanel(PanelOf::kDate); }
 
 void QtDesktop::ShowGuide() { guide_.Show(); }
 

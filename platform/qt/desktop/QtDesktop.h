@@ -28,6 +28,8 @@ class QtDesktop : public Desktop {
   void ShowCursor(bool show) override;
   void TurnOffMonitor() override;
   void StartTool(const std::string& path) override;
+  void OpenVolumePanel() override;
+  void OpenDatePanel() override;
   void ShowGuide() override;
   void EndProcess() override;
 

@@ -26,11 +26,15 @@ std::string ToolAt(const std::string& path) {
 }
 
 void StartDetached(const std::string& path) {
-  const std::string tool = ToolAt(path);
-  if (tool.empty()) return;
+  const QString tool = QString::fromStdString(ToolAt(path));
+  if (!tool.isEmpty()) StartApart(tool, {}, QFileInfo(tool).path());
+}
+
+void StartApart(const QString& program, const QStringList& arguments, const QString& folder) {
   QProcess process;
-  process.setProgram(QString::fromStdString(tool));
-  process.setWorkingDirectory(QFileInfo(process.program()).path());
+  process.setProgram(program);
+  process.setArguments(arguments);
+  process.setWorkingDirectory(folder);
   process.setStandardInputFile(QProcess::nullDevice());
   process.setStandardOutputFile(QProcess::nullDevice());
   process.setStandardErrorFile(QProcess::nullDevice());
