@@ -73,6 +73,7 @@ class frmMid : public Form {
   MenuItem mnuVideoConvert_1{*this, "mnuVideoConvert_1"};
   MenuItem mnuRemute{*this, "mnuRemute"};
   MenuItem mnuTeamviewer{*this, "mnuTeamviewer"};
+  MenuItem mnuSettings{*this, "mnuSettings"};
   MenuItem mnuHelp{*this, "mnuHelp"};
   MenuItem mnuHelp2{*this, "mnuHelp2"};
   MenuItem mnuQuicksupport{*this, "mnuQuicksupport"};

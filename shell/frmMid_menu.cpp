@@ -27,6 +27,7 @@
 #include "shell/ConfirmExit.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMid.h"
+#include "shell/frmSettings.h"
 #include "webfeed/FrmWeb.h"
 #include "webfeed/frmPageSettings.h"
 
@@ -122,6 +123,7 @@ void frmMid::ConnectMenu() {
       {mnuClockSettings, ShowForm<frmClockSett>},
       {mnuTVChannel, ShowForm<frmOnlineTV>, Needs::kNetwork},
       {nmuRadioChannel, ShowForm<frmOnlineRadio>, Needs::kNetwork},
+      {mnuSettings, ShowForm<frmSettings>},
       {mnuAbout2, ShowForm<frmAbout>},
       {mnuTrayAbout, ShowForm<frmAbout>},
   };

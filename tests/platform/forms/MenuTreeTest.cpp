@@ -87,6 +87,7 @@ TEST_F(MenuTreeTest, TheMenuBarHasItsEntriesInTheirOrderLetterForLetter) {
                                                    "    mnuVideoConvert_1 \"Format Factory\"",
                                                    "  mnuRemute \"Remote comtrol\"",
                                                    "    mnuTeamviewer \"Teamviewer\"",
+                                                   "  mnuSettings \"Settings\"",
                                                    "mnuHelp \"&Help\"",
                                                    "  mnuHelp2 \"Help\"",
                                                    "  mnuQuicksupport \"Quick support\"",

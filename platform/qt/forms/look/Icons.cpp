@@ -106,6 +106,7 @@ constexpr IconRow kControls[] = {
     {"frmPlaylist", "ThemedButton1", "go-home"},
     {"frmPlaylist", "vkCommand2", "list-add"},
     {"frmPlaylist", "vkCommand3", "edit-delete"},
+    {"frmSettings", "ThemedButton1", "view-calendar"},
     {"frmStikerSett", "vkCommand2", "edit-delete"},
     {"frmStikerSett", "vkCommand3", "list-add"},
     {"frmVideoAdSett", "vkCommand1", "document-open"},
