@@ -9,6 +9,7 @@ class FlashEngine;
 class MediaEngine;
 class Monitors;
 class Network;
+class NewsFeeds;
 class Pictures;
 class Scheduler;
 class Windows;
@@ -27,4 +28,5 @@ struct World {
   Desktop& desktop;
   Monitors& monitors;
   Network& network;
+  NewsFeeds& feeds;
 };

@@ -18,6 +18,7 @@
 #include "platform/qt/desktop/QtDialogs.h"
 #include "platform/qt/desktop/QtMonitors.h"
 #include "platform/qt/desktop/QtPictures.h"
+#include "platform/qt/feeds/QtNewsFeeds.h"
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/forms/QtWindows.h"
 #include "platform/qt/forms/look/Look.h"
@@ -65,6 +66,7 @@ struct QtWorld::Parts {
   FolderLock lock{folder};
   QtMonitors monitors;
   PosixNetwork network;
+  QtNewsFeeds feeds;
 };
 
 std::unique_ptr<QtWorld::Parts> QtWorld::MakeParts() {
@@ -74,9 +76,9 @@ std::unique_ptr<QtWorld::Parts> QtWorld::MakeParts() {
 }
 
 QtWorld::QtWorld()
-    : parts_(MakeParts()), world{parts_->clock,   parts_->scheduler, parts_->files,    parts_->media,
-                                 parts_->flash,   parts_->browser,   parts_->pictures, parts_->windows,
-                                 parts_->dialogs, parts_->desktop,   parts_->monitors, parts_->network} {}
+    : parts_(MakeParts()), world{parts_->clock,    parts_->scheduler, parts_->files,   parts_->media,   parts_->flash,
+                                 parts_->browser,  parts_->pictures,  parts_->windows, parts_->dialogs, parts_->desktop,
+                                 parts_->monitors, parts_->network,   parts_->feeds} {}
 
 QtWorld::~QtWorld() = default;
 

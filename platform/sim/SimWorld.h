@@ -6,6 +6,7 @@
 #include "platform/sim/SimFlash.h"
 #include "platform/sim/SimMedia.h"
 #include "platform/sim/SimMonitors.h"
+#include "platform/sim/SimNewsFeeds.h"
 #include "platform/sim/SimShell.h"
 #include "platform/sim/SimTime.h"
 #include "platform/sim/SimTrace.h"
@@ -25,6 +26,7 @@ struct SimWorld {
   SimDesktop desktop{trace};
   SimMonitors monitors;
   SimNetwork network{trace};
+  SimNewsFeeds feeds{time, trace};
 
-  World world{time, time, files, media, flash, browser, pictures, windows, dialogs, desktop, monitors, network};
+  World world{time, time, files, media, flash, browser, pictures, windows, dialogs, desktop, monitors, network, feeds};
 };

@@ -38,8 +38,8 @@ class NetworkCountTest : public StationTest {
   }
 
   CountingNetwork network{sim.trace};
-  World world{sim.time,     sim.time,    sim.files,   sim.media,   sim.flash,    sim.browser,
-              sim.pictures, sim.windows, sim.dialogs, sim.desktop, sim.monitors, network};
+  World world{sim.time,    sim.time,    sim.files,   sim.media,    sim.flash, sim.browser, sim.pictures,
+              sim.windows, sim.dialogs, sim.desktop, sim.monitors, network,   sim.feeds};
   Station counted{world, "/station"};
 };
 

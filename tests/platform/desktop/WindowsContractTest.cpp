@@ -118,8 +118,8 @@ class RealScreen : public Windows {
   Scene scene_{scheduler_, loader_};
 
  public:
-  World world{sim_.time,     scheduler_, sim_.files,   sim_.media,   sim_.flash,    sim_.browser,
-              sim_.pictures, *this,      sim_.dialogs, sim_.desktop, sim_.monitors, sim_.network};
+  World world{sim_.time, scheduler_,   sim_.files,   sim_.media,    sim_.flash,   sim_.browser, sim_.pictures,
+              *this,     sim_.dialogs, sim_.desktop, sim_.monitors, sim_.network, sim_.feeds};
 };
 
 template <class AnyScreen>

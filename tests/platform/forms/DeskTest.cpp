@@ -44,8 +44,8 @@ class DeskTest : public FormTest {
   PictureLoader loader;
   QtWindows drawing{[this](Form& one) { return sim.windows.Create(one); }, Surfaces{NewFrameWidget, &loader}};
   QtFlash flash{loader, ""};  // pictures need no program
-  World shown{sim.time,     sim.time, sim.files,   sim.media,   flash,        sim.browser,
-              sim.pictures, drawing,  sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World shown{sim.time, sim.time,    sim.files,   sim.media,    flash,       sim.browser, sim.pictures,
+              drawing,  sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station desk{shown, "/station"};
   frmDesk& form = desk.forms.Get<frmDesk>();
 };

@@ -48,7 +48,7 @@ class FormTest : public ::testing::Test {
 
   SimWorld sim;
   QtWindows windows{[this](Form& form) { return sim.windows.Create(form); }, Surfaces{}};
-  World world{sim.time,     sim.time, sim.files,   sim.media,   sim.flash,    sim.browser,
-              sim.pictures, windows,  sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World world{sim.time, sim.time,    sim.files,   sim.media,    sim.flash,   sim.browser, sim.pictures,
+              windows,  sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, "/station"};
 };

@@ -191,8 +191,8 @@ class GlassTest : public testing::Test, public Windows {
   QtFlash flash{loader, MOVIE_PROGRAM};
   QtPictures pictures;
   std::map<Form*, QPointer<QQuickWindow>> windows;
-  World world{sim.time, scheduler, files,       sim.media,   flash,        sim.browser,
-              pictures, *this,     sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World world{sim.time, scheduler,   files,       sim.media,    flash,       sim.browser, pictures,
+              *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, test_media::PathOf("station")};
   frmGround& ground = station.forms.Get<frmGround>();
   frmGlass& glass = station.forms.Get<frmGlass>();

@@ -87,8 +87,8 @@ class OnAirWindowTest : public testing::Test, public Windows {
   QtFlash flash{loader, MOVIE_PROGRAM};
   QtPictures pictures;
   QPointer<QQuickWindow> window;
-  World world{clock,    scheduler, files,       media,       flash,        sim.browser,
-              pictures, *this,     sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World world{clock, scheduler,   files,       media,        flash,       sim.browser, pictures,
+              *this, sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, test_media::PathOf("station")};
   frmProbe& form = station.forms.Get<frmProbe>();
 };

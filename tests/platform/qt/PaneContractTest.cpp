@@ -97,8 +97,8 @@ class RealPanes : public Windows {
   QtPictures pictures_;
 
  public:
-  World world{clock_,    scheduler_, files_,       media_,       sim_.flash,    sim_.browser,
-              pictures_, *this,      sim_.dialogs, sim_.desktop, sim_.monitors, sim_.network};
+  World world{clock_, scheduler_,   files_,       media_,        sim_.flash,   sim_.browser, pictures_,
+              *this,  sim_.dialogs, sim_.desktop, sim_.monitors, sim_.network, sim_.feeds};
 };
 
 template <class AnyWorld>

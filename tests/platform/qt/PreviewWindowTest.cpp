@@ -45,8 +45,8 @@ class PreviewWindowTest : public testing::Test, public Windows {
   PictureLoader loader;
   Scene scene{scheduler, loader};
   QPointer<QQuickWindow> window;
-  World world{sim.time,     sim.time, sim.files,   sim.media,   sim.flash,    sim.browser,
-              sim.pictures, *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World world{sim.time, sim.time,    sim.files,   sim.media,    sim.flash,   sim.browser, sim.pictures,
+              *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, "/station"};
   frmPeek& form = station.forms.Get<frmPeek>();
 };

@@ -85,8 +85,8 @@ class RealWorld {
   Scheduler& scheduler = scheduler_;
   MediaEngine& media = media_;
   // Time, disk, media and pictures are real.
-  World world{clock_,    scheduler_,    files_,        media_,        flash_,         browser_,
-              pictures_, rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors, rest_.network};
+  World world{clock_,        scheduler_,    files_,        media_,         flash_,        browser_,   pictures_,
+              rest_.windows, rest_.dialogs, rest_.desktop, rest_.monitors, rest_.network, rest_.feeds};
 };
 
 using Worlds = testing::Types<VirtualWorld, RealWorld>;
