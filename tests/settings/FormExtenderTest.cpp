@@ -94,8 +94,8 @@ TEST_F(FormExtenderTest, AllFourMeasuresComeOntoTheDiskInOneStep) {
     std::vector<std::string> written;
   } disk;
   disk.CreateFolder("/station");
-  World watched{sim.time,     sim.time,    disk,        sim.media,   sim.flash,    sim.browser,
-                sim.pictures, sim.windows, sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World watched{sim.time,    sim.time,    disk,        sim.media,    sim.flash,   sim.browser, sim.pictures,
+                sim.windows, sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station other{watched, "/station"};
   auto& form = other.forms.Get<frmPlaced>();
   form.win.RecordWindowPosTo = kFile;

@@ -123,8 +123,8 @@ class PageItemTest : public testing::Test, public Windows {
   Scene scene{scheduler, loader};
   PaintedPages pages;
   QPointer<QQuickWindow> window;
-  World world{sim.time,     scheduler, sim.files,   sim.media,   sim.flash,    pages,
-              sim.pictures, *this,     sim.dialogs, sim.desktop, sim.monitors, sim.network};
+  World world{sim.time, scheduler,   sim.files,   sim.media,    sim.flash,   pages,    sim.pictures,
+              *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, test_media::PathOf("station")};
   frmPeep& form = station.forms.Get<frmPeep>();
 };
