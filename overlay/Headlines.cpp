@@ -70,8 +70,9 @@ void Headlines::Store(const std::vector<Headline>& headlines) {
   });
 }
 
-std::optional<std::string> Headlines::NextRSS() {
-  const std::vector<Headline> all = All();
+std::optional<std::string> Headlines::NextRSS(const std::vector<std::string>& titles) {
+  std::vector<Headline> all = All();
+  for (const std::string& title : titles) all.push_back({title, true});
   const std::size_t first = FirstToTry(all);
   for (std::size_t step = 0; step < all.size(); ++step) {
     const std::size_t row = (first + step) % all.size();
@@ -83,8 +84,9 @@ std::optional<std::string> Headlines::NextRSS() {
   return std::nullopt;
 }
 
-// The operator moves, deletes and corrects while the strip runs. The text given last may stand elsewhere now; where it
-// is gone, its follower stands in its place, or the same headline with its corrected text.
+// The operator moves, deletes and corrects while the strip runs, and the feed brings other titles. The text given last
+// may stand elsewhere now; where it is gone, its follower stands in its place, or the same headline with its corrected
+// text.
 std::size_t Headlines::FirstToTry(const std::vector<Headline>& all) const {
   if (given_ == 0) return 0;
   if (given_ <= all.size() && all[given_ - 1].text == text_) return given_;

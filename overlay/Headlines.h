@@ -27,9 +27,9 @@ class Headlines {
   std::vector<Headline> All();
   // Puts these in the place of all that are there, in one step; everything else in the file stays.
   void Store(const std::vector<Headline>& headlines);
-  // The text that comes next on the strip: of the headlines that are on and not blank, the one behind the text given
-  // last, and after the last the first. Nothing when there is none.
-  std::optional<std::string> NextRSS();
+  // The text that comes next on the strip: of the headlines that are on and not blank, and of the titles of the feed,
+  // which follow them, the one behind the text given last, and after the last the first. Nothing when there is none.
+  std::optional<std::string> NextRSS(const std::vector<std::string>& titles = {});
 
  private:
   std::size_t FirstToTry(const std::vector<Headline>& all) const;

@@ -17,7 +17,8 @@ constexpr int kFramesBeforeTheEnd = 3;
 frmBreakingNews::frmBreakingNews(Station& station)
     : Form(station.forms, "frmBreakingNews", Kind::kOnAir),
       station_(station),
-      news_(station.world.files, station.dataFolder) {
+      news_(station.world.files, station.dataFolder),
+      feed_(station, *this) {
   Top = 9000;
   Width = 15450;
   Height = 900;
@@ -37,6 +38,7 @@ frmBreakingNews::frmBreakingNews(Station& station)
     Timer1.Enabled = false;
   });
   Timer2.Tick.Connect([this] { Timer2_Tick(); });
+  TimerFeed.Tick.Connect([this] { feed_.Look(); });
   MouseDown.Connect([this](const MousePlace&) { Window()->DragWindow([] {}); });
   MouseMove.Connect([this](const MousePlace&) {
     station_.stores.SettingsIni.WriteValue(kSection, "Left", SingleText(static_cast<float>(Left)));
@@ -71,5 +73,5 @@ void frmBreakingNews::LoadNews(const std::string& text) {
 void frmBreakingNews::Timer2_Tick() {
   if (!newsIsDue_) return;
   newsIsDue_ = false;
-  if (const auto text = news_.NextRSS()) LoadNews(*text);
+  if (const auto text = news_.NextRSS(feed_.Titles())) LoadNews(*text);
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "overlay/Headlines.h"
+#include "overlay/NewsFeed.h"
 #include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
@@ -11,8 +12,8 @@
 #include "settings/Station.h"
 
 // The news strip: a movie with one line of text, opaque, above the picture on the air. Once in each loop of the movie,
-// three frames before its end, the operator's next headline takes its turn; without one the movie goes on with the text
-// that it has.
+// three frames before its end, the operator's next headline, or the feed's next title, takes its turn; without one the
+// movie goes on with the text that it has.
 class frmBreakingNews : public Form {
  public:
   explicit frmBreakingNews(Station& station);
@@ -23,6 +24,7 @@ class frmBreakingNews : public Form {
 
   Timer Timer1{*this, "Timer1", std::chrono::milliseconds(0), Timer::kEnabled};  // of no interval: never ticks
   Timer Timer2{*this, "Timer2", std::chrono::milliseconds(1), Timer::kEnabled};
+  Timer TimerFeed{*this, "TimerFeed", std::chrono::milliseconds(1000), Timer::kEnabled};
 
   FormExtender win{*this, "win"};
 
@@ -39,5 +41,6 @@ class frmBreakingNews : public Form {
 
   Station& station_;
   Headlines news_;
+  NewsFeed feed_;
   bool newsIsDue_ = false;  // the frame at which the next text is asked for has come
 };

@@ -30,10 +30,12 @@ std::span<const frmBreakingNewsSett::Measure> frmBreakingNewsSett::Measures() {
 frmBreakingNewsSett::frmBreakingNewsSett(Station& station)
     : Form(station.forms, "frmBreakingNewsSett", Kind::kOperator),
       station_(station),
-      news_(station.world.files, station.dataFolder) {
+      news_(station.world.files, station.dataFolder),
+      feed_(station),
+      feedNews_(station.Shared<FeedNews>()) {
   Caption = "Breaking news settings";
   Width = ToTwips(760);
-  Height = ToTwips(560);
+  Height = ToTwips(660);
   chkActive.Value = 1;
   ListNews.Changed.Connect([this](const ListChange& change) {
     if (change.what == ListChange::What::kSelection) TakeSelected();
@@ -44,6 +46,8 @@ frmBreakingNewsSett::frmBreakingNewsSett(Station& station)
   btnAdd.Click.Connect([this] { btnAdd_Click(); });
   btnSave.Click.Connect([this] { btnSave_Click(); });
   chkActive.Click.Connect([this] { chkActive_Click(); });
+  btnFeed.Click.Connect([this] { btnFeed_Click(); });
+  feedTells_ = feedNews_.Changed.Subscribe([this] { TellFeed(); });
   for (const Measure& row : Measures()) {
     Slider& slider = this->*row.slider;
     slider.LargeChange = kPage;
@@ -61,6 +65,7 @@ void frmBreakingNewsSett::Load() {
   station_.stores.SettingsFile();
   ShowHeadlines(0);
   ShowPlace();
+  ShowFeed();
 }
 
 // The desk has brought a strip to life that is not on the air: it goes with the desk.
@@ -145,6 +150,33 @@ void frmBreakingNewsSett::btnDelete_Click() {
   if (row > static_cast<int>(shown_.size()) || !(shown_[static_cast<std::size_t>(row) - 1] == meant)) return;
   Change(row, [&](std::vector<Headline>& all) { all.erase(all.begin() + (row - 1)); });
   TakeSelected();
+}
+
+void frmBreakingNewsSett::ShowFeed() {
+  txtFeed.Text = feed_.Address();
+  txtFeedMin.Text = std::to_string(feed_.Interval().count());
+  TellFeed();
+}
+
+void frmBreakingNewsSett::TellFeed() {
+  const std::string count = std::to_string(feedNews_.titles.size());
+  const std::string kept = count + " titles of " + feedNews_.time;
+  const bool isKept = !feedNews_.time.empty();
+  if (feedNews_.address.empty()) {
+    lblFeed.Caption = "No feed";
+  } else if (feedNews_.fetching) {
+    lblFeed.Caption = "Being fetched...";
+  } else if (feedNews_.failed) {
+    lblFeed.Caption = isKept ? "Cannot be fetched; " + kept + " stay" : "Cannot be fetched";
+  } else {
+    lblFeed.Caption = isKept ? kept : "Not fetched yet";
+  }
+}
+
+// The strip sees it within a second. What is shown is what counts, whatever was typed as minutes.
+void frmBreakingNewsSett::btnFeed_Click() {
+  feed_.Store(std::string(TrimBlanks(txtFeed.Text.Get())), FeedSettings::Minutes(txtFeedMin.Text));
+  ShowFeed();
 }
 
 frmBreakingNews& frmBreakingNewsSett::Strip() { return station_.forms.Get<frmBreakingNews>(); }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "overlay/Headlines.h"
+#include "overlay/NewsFeed.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/ListView.h"
 #include "platform/toolkit/Widgets.h"
@@ -12,8 +13,9 @@
 
 class frmBreakingNews;
 
-// The desk of the news strip: the operator's headlines, and where the strip stands, since no mouse reaches the strip
-// itself. Each change goes to its file, and to the air, at once.
+// The desk of the news strip: the operator's headlines, the feed whose titles follow them, and where the strip stands,
+// since no mouse reaches the strip itself. Each change goes to its file, and to the air, at once; the feed has a
+// button.
 class frmBreakingNewsSett : public Form {
  public:
   explicit frmBreakingNewsSett(Station& station);
@@ -26,6 +28,11 @@ class frmBreakingNewsSett : public Form {
   CheckBox chkActive{*this, "chkActive"};  // of the selected headline; with none selected, of a new one
   CommandButton btnAdd{*this, "btnAdd"};
   CommandButton btnSave{*this, "btnSave"};  // the text of the selected headline
+
+  TextBox txtFeed{*this, "txtFeed"};  // the address; empty: no feed
+  TextBox txtFeedMin{*this, "txtFeedMin"};
+  CommandButton btnFeed{*this, "btnFeed"};  // stores both
+  Label lblFeed{*this, "lblFeed"};          // what came of it
 
   // Pixels of the screens.
   Slider sldLeft{*this, "sldLeft"};
@@ -63,6 +70,10 @@ class frmBreakingNewsSett : public Form {
   void btnDelete_Click();
   void chkActive_Click();
 
+  void ShowFeed();
+  void TellFeed();
+  void btnFeed_Click();
+
   frmBreakingNews& Strip();
   void ShowPlace();
   void Tell(const Measure& row);
@@ -70,5 +81,8 @@ class frmBreakingNewsSett : public Form {
 
   Station& station_;
   Headlines news_;
+  FeedSettings feed_;
+  FeedNews& feedNews_;
+  Subscription feedTells_;
   std::vector<Headline> shown_;
 };

@@ -238,8 +238,8 @@ TEST_F(BreakingNewsTest, TheStripGoesOnWhenWhatPlaysItsMovieHasDied) {
   EXPECT_EQ(Given(), (Names{"Hello Orlin", "a", "b"}));
 }
 
-TEST_F(BreakingNewsTest, ItsTimersAreOneThatNeverTicksAndOneOfAMillisecond) {
-  EXPECT_EQ(Timers(Strip()), (Names{"Timer1 0 ms on", "Timer2 1 ms on"}));
+TEST_F(BreakingNewsTest, ItsTimersAreOneThatNeverTicksOneOfAMillisecondAndTheFeedsOfASecond) {
+  EXPECT_EQ(Timers(Strip()), (Names{"Timer1 0 ms on", "Timer2 1 ms on", "TimerFeed 1000 ms on"}));
   Set("BreakingNews", "Left", "4500");
   Advance(10s);
   EXPECT_EQ(Strip().Left, 0);

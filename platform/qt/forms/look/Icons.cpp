@@ -46,6 +46,7 @@ constexpr IconRow kControls[] = {
     {"frmAdSett", "btnPlay", "media-playback-stop"},
     {"frmAdSett", "imgPlay", "media-playback-start"},
     {"frmAdSett", "imgStop", "media-playback-stop"},
+    {"frmBreakingNewsSett", "btnFeed", "document-save"},
     {"frmClockSett", "vkCommand2", "edit-delete"},
     {"frmClockSett", "vkCommand3", "list-add"},
     {"frmFlashAdSett", "vkCommand2", "edit-delete"},
