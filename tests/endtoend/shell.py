@@ -205,5 +205,44 @@ def where_the_desktop_writes_decimals_with_a_comma_an_item_resumes_at_its_second
     until("the clock behind 20 seconds", lambda: 20 <= (station.clock() or 0) < 40)
 
 
+@scenario
+def the_system_settings_are_written_at_once_and_the_buttons_open_the_desktops_panels(desk):
+    programs = desk.folder / "programs"
+    programs.mkdir()
+    for name in ("pavucontrol", "time-admin"):
+        (programs / name).write_text(f"#!/bin/sh\ntouch '{programs}/{name}.started'\n")
+        (programs / name).chmod(0o755)
+    desk.environment["PATH"] = f"{programs}:{desk.environment['PATH']}"
+    station = playing(desk, settings={"Settings": {"StartUp": "1", "NeedPass": "0", "Password": "old"}})
+    reader = station.open_form("frmSettings", "Tools", "Settings")
+    for box, key in (("Show cursor", "ShowMouse"), ("Show taskbar", "ShowTaskbar"), ("Show control window at start", "StartUp")):
+        for value in ("0", "1"):
+            reader.press(box, "check box")
+            station.await_setting("Settings", key, value)
+    for button, name in (("Volume", "pavucontrol"), ("Date and time", "time-admin")):
+        reader.press(button)
+        until(f"{name} to start", (programs / f"{name}.started").exists)
+    reader.write_over("Supported file extension", "*.mp4;*.mkv")
+    reader.press("Save the extensions")
+    until("the box", lambda: desk.screen.window(title="Settings"))
+    desk.screen.keys("Return")
+    station.await_setting("Settings", "Ext", "*.mp4;*.mkv")
+    reader.write_over("Password", "new secret")
+    reader.press("Save the password")
+    for answer, title in (("old", "Error"), ("", None)):
+        until("the question", lambda: desk.screen.window(title="Password"))
+        desk.screen.keys(*answer, "Return")
+        if title:
+            until("the refusal", lambda: desk.screen.window(title=title))
+            desk.screen.keys("Return")
+    assert station.setting("Settings", "Password") == "old"
+    reader.press("Save the password")
+    until("the question", lambda: desk.screen.window(title="Password"))
+    desk.screen.type("0")
+    desk.screen.keys("Return")
+    station.await_setting("Settings", "Password", "new secret")
+    assert station.colour() == "red"
+
+
 if __name__ == "__main__":
     main()
