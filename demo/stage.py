@@ -90,6 +90,9 @@ PLACES = {
     "frmBreakingNews": (COLUMN, 0, 760, 44),
 }
 
+# The type, and of the programme what it holds: a channel may be a file.
+CHANNELS = {"TV.chn": ("Television", ["Welcome", "Test card"]), "Radio.chn": ("Music", ["Interval chime"])}
+
 HEADLINES = [
     "The new harbour bridge opens on Monday at eight",
     "Town library: the reading hour moves to five o'clock on Wednesdays",
@@ -220,6 +223,9 @@ def main():
     SETTINGS["Playlist"]["FolderPath"] = str(clip_folder)
     write_ini(station / "Settings.ini", SETTINGS | above_the_picture(station / "Media"))
     write_ini(station / "Window.ini", windows())
+    clip_of = {name: clip_folder / file_name for name, _, file_name, _ in PROGRAMME}
+    for file_name, (kind, names) in CHANNELS.items():
+        write_ini(station / "OnlineChannel" / file_name, {kind: {name: clip_of[name] for name in names}})
     write_ini(station / "rss.ini", {str(row): {"Text": text, "Active": "1"} for row, text in enumerate(HEADLINES, 1)})
     web_pages(station)
     write_ini(station / "Playlist" / "Demo.plt", running_order(clip_folder))

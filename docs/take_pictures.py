@@ -39,6 +39,10 @@ DESKS = [
     ("frmBreakingNewsSett", ("Breaking nws", "Settings"), [([(stage.HEADLINES[0], "table cell")], None, "news-desk")]),
     ("frmPageSettings", ("Web feed", "Settings"),
      [([("Town board", "list item"), ("Preview",)], None, "web-feed-desk")]),
+    ("frmSettings", ("Tools", "Settings"), [([], None, "system-settings")]),
+    # Opens on a machine that is on line alone.
+    ("frmOnlineTV", ("Online channels", "TV channels"),
+     [([("Television", "list item"), ("Preview", "check box"), ("Test card", "list item")], None, "online-channels")]),
 ]  # fmt: skip
 
 
