@@ -5,6 +5,7 @@ import sys
 import time
 
 from harness import ini, letters, media
+from harness.feeds import Feed
 from harness.patience import throughout, until
 from harness.reader import Reader
 from harness.scenarios import main, scenario
@@ -274,6 +275,30 @@ def after_the_plug_was_pulled_the_strip_is_back_where_the_desk_put_it(desk):
     station.start_on_air()
     then = until("the strip", lambda: strip(station))
     assert (then.x, then.y, then.width, then.height) == (now.x, now.y, now.width, now.height), (now, then)
+
+
+@scenario
+def the_titles_of_a_feed_follow_the_own_headline_and_stay_when_the_feed_is_gone(desk):
+    with Feed("<b>Br&uuml;cke</b> wieder offen", "Second of the feed") as feed:
+        station = station_with_strip(desk, "Own headline", speed=20, StartUp=1)
+        station.start_on_air()
+        reader = station.open_form("frmBreakingNewsSett", "Breaking nws", "Settings")
+        reader.write_over("Address of the feed", feed.address)
+        reader.write_over("Minutes between two fetches", "1")
+        assert feed.asked == 0, "nothing is fetched before it is saved"
+        reader.press("Save the feed")
+        until("the feed to be fetched", lambda: feed.asked)
+        assert ini.value(station.folder / "rss.ini", "Feed", "URL") == feed.address
+        desk.screen.picture(media.ROOT / "build" / "news-feed-desk.png")
+        desk.screen.ask_to_close(desk.screen.window(form="frmBreakingNewsSett"))
+        for text in ("Own headline", "Brücke wieder offen", "Second of the feed"):
+            await_text(station, text, "Latn", seconds=120)
+        feed.gone = True
+        asked = feed.asked
+        until("the feed to be asked for in vain", lambda: feed.asked > asked, 90)
+        for text in ("Own headline", "Second of the feed"):
+            await_text(station, text, "Latn", seconds=120)
+        station.assert_responsive()
 
 
 if __name__ == "__main__":
