@@ -36,10 +36,14 @@ def clip(colour, seconds=2):
     return _made(f"{colour}-{seconds}.mp4", *video, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p")
 
 
+PATTERN = "pattern"
+
+
 def endless(colour):
-    """What makes ffmpeg send one colour with a tone for ever, at the speed of time and with a picture to begin at in each
-    second."""
-    picture = ["-re", "-f", "lavfi", "-i", f"color=c={_hex(colour)}:s=640x360:r=25"]
+    """What makes ffmpeg send one colour, or PATTERN, which moves, with a tone for ever, at the speed of time and with a
+    picture to begin at in each second."""
+    source = "testsrc2=" if colour == PATTERN else f"color=c={_hex(colour)}:"
+    picture = ["-re", "-f", "lavfi", "-i", f"{source}s=640x360:r=25"]
     sound = ["-re", "-f", "lavfi", "-i", "sine=frequency=440"]
     return [*picture, *sound, "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p", "-g", "25", "-c:a", "aac"]
 

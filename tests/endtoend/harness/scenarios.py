@@ -31,10 +31,15 @@ def scenario(function):
     return function
 
 
-def require_network():
-    """Skips the scenario on a machine that is off line: the station asks for a default route."""
+def has_network():
+    """Whether the machine is on line as the station sees it: by a default route."""
     routes = (line.split() for line in open("/proc/net/route"))
-    if not any(words[1] == "00000000" and int(words[3], 16) & 1 for words in routes if words[1] != "Destination"):
+    return any(words[1] == "00000000" and int(words[3], 16) & 1 for words in routes if words[1] != "Destination")
+
+
+def require_network():
+    """Skips the scenario on a machine that is off line."""
+    if not has_network():
         raise Skipped("this machine has no default route")
 
 
