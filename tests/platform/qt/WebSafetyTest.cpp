@@ -150,11 +150,25 @@ TEST_F(WebSafetyTest, ARendererThatDiesAgainAndAgainComesBackAtGrowingPauses) {
   }
 }
 
+TEST_F(WebSafetyTest, ARefreshDoesNotHurryAPageWhoseRendererDies) {
+  ASSERT_TRUE(IsGoodOnNet("good()"));
+  for (int loads = 1; loads <= 4; ++loads) {
+    ASSERT_TRUE(::Until([&] { return seen.loads == loads; }));
+    KillTheRenderer();
+  }
+  const int asked = server.asked["/page"];
+  world.Pass(300ms);
+  seen.surface->Reload();  // in the pause, which is two seconds long by now
+  ASSERT_TRUE(::Until([&] { return seen.loads == 5; }));
+  world.Pass(500ms);
+  EXPECT_EQ(server.asked["/page"], asked + 1);
+}
+
 TEST_F(WebSafetyTest, TheProgramThatShowsPagesComesBackWhenItIsKilled) {
   ASSERT_TRUE(IsGoodOnNet("good()"));
-  const int loads = seen.loads;
+  ASSERT_TRUE(::Until([&] { return seen.loads == 1; }));
   for (const pid_t program : ProcessesWith(kPageProgram)) kill(program, SIGKILL);
-  EXPECT_TRUE(::Until([&] { return seen.loads > loads; }));
+  EXPECT_TRUE(::Until([&] { return seen.loads == 2; }));
 }
 
 TEST_F(WebSafetyTest, AProfileThatIsNoFolderIsThrownAway) {

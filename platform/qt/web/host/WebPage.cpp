@@ -60,7 +60,7 @@ WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& gua
   connect(&due_, &QTimer::timeout, this, &WebPage::Paint);
   comeBack_.setSingleShot(true);
   comeBack_.setInterval(kFirstPause);
-  connect(&comeBack_, &QTimer::timeout, this, &WebPage::Reload);
+  connect(&comeBack_, &QTimer::timeout, this, &WebPage::ComeBack);
   tryAgain_.setSingleShot(true);
   connect(&tryAgain_, &QTimer::timeout, this, &WebPage::Reload);
   watch_.setInterval(kBetweenQuestions);
@@ -105,10 +105,11 @@ void WebPage::Go() {
   view_->setProperty("url", address_.isEmpty() ? QUrl("about:blank") : address_);
 }
 
-// What the browser would reload is the page before, as long as nothing has come of this one.
+// What the browser would reload is the page before, as long as nothing has come of this one. One whose renderer has
+// died comes back when its pause is over and no sooner.
 void WebPage::Reload() {
+  if (comeBack_.isActive()) return;
   tryAgain_.stop();
-  sinceBack_.start();
   if (arrived_) {
     QMetaObject::invokeMethod(view_, "reload");
   } else {
@@ -174,6 +175,11 @@ void WebPage::Ended(bool succeeded) {
   }
   Tell("Done");
   if (succeeded) listener_.loaded();
+}
+
+void WebPage::ComeBack() {
+  sinceBack_.start();
+  Reload();
 }
 
 // A page that brings its renderer down each time must not keep the machine busy with it.

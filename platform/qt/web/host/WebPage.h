@@ -54,6 +54,7 @@ class WebPage : public QObject {
   void Ended(bool succeeded);
   void Begin();
   void Died();
+  void ComeBack();
   void SeeWhetherItAnswers();
   void Ask();
   void Paint();
