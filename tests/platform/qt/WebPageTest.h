@@ -1,8 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/WebAddress.h"
 #include "platform/qt/frames/FrameSource.h"
@@ -33,7 +35,10 @@ class SeenPage : public BrowserListener {
     FrameSource* source = &dynamic_cast<ShowsFrames&>(*surface).Frames();
     source->SetTarget(kPageSize);
     QObject::connect(source, &FrameSource::Changed, source, [this, source] {
-      if (const auto taken = source->Take()) picture = taken->copy();
+      const auto taken = source->Take();
+      if (!taken) return;
+      picture = taken->copy();
+      colours.push_back(picture.pixelColor(picture.rect().center()));
     });
   }
   void StatusChanged(const std::string& text) override { status = text; }
@@ -42,10 +47,17 @@ class SeenPage : public BrowserListener {
   bool Shows(QColor colour) {
     return ::Until([&] { return !picture.isNull() && picture.pixelColor(picture.rect().center()) == colour; });
   }
+  // The colours in the middle of all pictures from the present one on until that holds.
+  std::vector<QColor> ShownUntil(const std::function<bool()>& holds) {
+    colours = {picture.pixelColor(picture.rect().center())};
+    EXPECT_TRUE(::Until(holds));
+    return colours;
+  }
   bool IsGood() { return Shows(QColor(0, 255, 0)); }
 
   std::unique_ptr<BrowserSurface> surface;
   QImage picture;
+  std::vector<QColor> colours;  // of all pictures, in the middle
   std::string status;
   int loads = 0;
 };

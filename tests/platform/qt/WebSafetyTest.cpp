@@ -1,4 +1,5 @@
 #include <QStandardPaths>
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 
@@ -133,8 +134,10 @@ TEST_F(WebSafetyTest, APageComesBackWhenItsRendererIsKilledAndItsLastPictureStay
   ASSERT_TRUE(IsGoodOnNet("good()"));
   ASSERT_TRUE(::Until([&] { return seen.loads == 1; }));
   KillTheRenderer();
-  ASSERT_TRUE(::Until([&] { return seen.loads == 2; }));
-  EXPECT_EQ(seen.picture.pixelColor(kPageSize.width() / 2, kPageSize.height() / 2), QColor(0, 255, 0));
+  const std::vector<QColor> shown = seen.ShownUntil([&] { return seen.loads == 2; });
+  const std::vector<QColor> mayBeShown{QColor(0, 0, 255), QColor(0, 255, 0)};  // the page's first colour and its last
+  for (const QColor& colour : shown) EXPECT_TRUE(std::ranges::count(mayBeShown, colour)) << colour.alpha();
+  EXPECT_TRUE(seen.IsGood());
   EXPECT_GE(server.asked["/page"], 2);
 }
 

@@ -33,10 +33,14 @@ constexpr milliseconds kBetweenQuestions{5'000};
 constexpr int kTooManyQuestions = 4;
 constexpr QSize kFirstSize{640, 480};
 
-bool IsBlank(const QImage& picture) {
+// Where nothing is painted yet, and the ground of a page.
+constexpr uchar kNothing = 0x00;
+constexpr uchar kWhite = 0xFF;
+
+bool IsAll(uchar value, const QImage& picture) {
   const auto* bytes = picture.constBits();
   const auto size = static_cast<std::size_t>(picture.sizeInBytes());
-  return std::all_of(bytes, bytes + size, [](uchar byte) { return byte == 0xFF; });
+  return std::all_of(bytes, bytes + size, [value](uchar byte) { return byte == value; });
 }
 
 }  // namespace
@@ -215,8 +219,10 @@ void WebPage::Paint() {
   if (!Lives(view_->property("renderProcessPid").toLongLong())) return;
   const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
   if (picture.size() != frames_->Size()) return Ask();
-  // The ground comes before the page; a page that is blank is believed after a while.
-  if (!sinceBegun_.hasExpired(kLongestBlank) && IsBlank(picture)) return Ask();
+  // Nothing comes before the ground, and the ground before the page; a page that is blank is believed after a while.
+  const bool mayBeEarly = !sinceBegun_.hasExpired(kLongestBlank);
+  if (mayBeEarly && (IsAll(kNothing, picture) || IsAll(kWhite, picture))) return Ask();
+  if (IsAll(kNothing, picture)) return;  // the first painting asks again
   if (!Changed(picture)) return;
   const auto stride = static_cast<std::size_t>(frames_->Stride());
   uchar* to = frames_->Paint();
