@@ -16,10 +16,19 @@ constexpr char kBrowser[] =
     "--process-per-site --no-unsandboxed-zygote "
     "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory\"";
 
+// The renderer's threads would each keep a heap of their own, in which what one movie after the other leaves free is never
+// given back: read by the C library when it begins, and so for the processes that come after this one.
+void KeepHeapsSmall() {
+  qputenv("MALLOC_ARENA_MAX", "1");
+  qputenv("MALLOC_MMAP_THRESHOLD_", "131072");
+  qputenv("MALLOC_TRIM_THRESHOLD_", "131072");
+}
+
 }  // namespace
 
 // Plays the movies of the station that started it, which is at the other end of descriptor 3; it ends with it.
 int main(int argc, char** argv) {
+  KeepHeapsSmall();
   qputenv("QT_QPA_PLATFORM", "offscreen");  // nothing of it is ever on a screen
   qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
