@@ -8,7 +8,8 @@ class FlashListener {
  public:
   virtual ~FlashListener() = default;
   // The movie put last shows this frame, counted from 1. Every frame is told, once each time it is come to, in order;
-  // several may come in a row. Of a movie put earlier nothing is told any more.
+  // several may come in a row. A movie whose header is right but that cannot be played is counted by the clock once
+  // that is known, a second or more after its put. Of a movie put earlier nothing is told any more.
   virtual void FrameShown(int frame) = 0;
 };
 

@@ -50,7 +50,11 @@ void SimSurface::Put(const std::string& path) {
   const bool isThere = flash_.files_.Resolve(path) == path && flash_.files_.Kind(path) == FileKind::kRegular;
   if (!isThere || flash_.damaged_.contains(path)) return;
   if (flash_.IsMovie(path)) totalFrames_ = flash_.movies_[path].frames;
-  if (!flash_.withoutBeginning_.contains(path)) Wait(flash_.loadingTime, &SimSurface::Begin);
+  if (!flash_.withoutBeginning_.contains(path)) {
+    Wait(flash_.loadingTime, &SimSurface::Begin);
+  } else if (totalFrames_ > 0) {
+    Wait(flash_.refusalTime, &SimSurface::Play);
+  }
 }
 
 void SimSurface::Begin() {

@@ -22,7 +22,8 @@ class SimFlash : public FlashEngine {
 
   // Every movie has 100 frames, 25 a second, unless told otherwise.
   void SetMovie(const std::string& path, int frames, int framesPerSecond = 25);
-  // The faults. Damaged: no movie and no picture. Without a beginning: its header is right, but no frame ever comes.
+  // The faults. Damaged: no movie and no picture. Without a beginning: its header is right, but it is never seen, and
+  // counted by the clock after `refusalTime`.
   void SetDamaged(const std::string& path) { damaged_.insert(path); }
   void SetWithoutBeginning(const std::string& path) { withoutBeginning_.insert(path); }
   // What plays the movies has died: each begins anew, after `returnTime`.
@@ -31,6 +32,7 @@ class SimFlash : public FlashEngine {
   // How long a movie takes to its first frame, and after a death.
   std::chrono::milliseconds loadingTime{40};
   std::chrono::milliseconds returnTime{1000};
+  std::chrono::milliseconds refusalTime{2000};
   // How many frames are told in a row, as on a machine that is held up.
   int framesAtOnce = 1;
 

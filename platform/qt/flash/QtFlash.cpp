@@ -72,6 +72,7 @@ void QtFlash::Hear(const QCborArray& message) {
     }
   } else if (about == wire::kUp || about == wire::kBad) {
     QtSurface* surface = Find(static_cast<int>(message[1].toInteger()));
-    if (surface != nullptr) surface->Settled(message[2].toInteger());
+    const auto settled = about == wire::kUp ? &QtSurface::Settled : &QtSurface::Refused;
+    if (surface != nullptr) (surface->*settled)(message[2].toInteger());
   }
 }

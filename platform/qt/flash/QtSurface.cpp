@@ -11,8 +11,18 @@
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/flash/Wire.h"
 
+namespace {
+
+constexpr double kSlowest = 1;  // frames per second, as the page plays movies
+constexpr double kFastest = 60;
+
+}  // namespace
+
 QtSurface::QtSurface(QtFlash& flash, FlashListener& listener)
-    : flash_(flash), listener_(listener), slot_(flash.Add(*this)) {}
+    : flash_(flash), listener_(listener), slot_(flash.Add(*this)) {
+  clock_.setTimerType(Qt::PreciseTimer);
+  connect(&clock_, &QTimer::timeout, this, &QtSurface::CountOn);
+}
 
 QtSurface::~QtSurface() {
   Leave();
@@ -29,9 +39,11 @@ void QtSurface::Put(const std::string& path) {
   path_ = path;
   variables_.clear();
   serial_ = 0;
+  clock_.stop();
   ++pictureWish_;
   const auto header = ReadMovieHeader(path);
   totalFrames_ = header ? header->frameCount : 0;
+  framesPerSecond_ = header ? header->framesPerSecond : 0;
   stage_ = header ? QSize(header->width, header->height) : QSize();
   waits_ = header.has_value();
   const QString name = QString::fromStdString(path);
@@ -115,6 +127,7 @@ void QtSurface::TellSilence() {
 void QtSurface::TellAll() {
   told_ = {};
   shared_.reset();
+  clock_.stop();
   if (leader_ != nullptr || serial_ == 0) {
     loading_ = 0;
     return;
@@ -174,6 +187,21 @@ void QtSurface::Settled(qint64 serial) {
   loading_ = 0;
   emit frames_.Renewed();
   if (waits_) flash_.BeginSoon();
+}
+
+// Who waits for the last frames of a movie, to show the next one behind it, would else wait for ever.
+void QtSurface::Refused(qint64 serial) {
+  if (serial == serial_ && leader_ == nullptr && totalFrames_ > 0) {
+    counted_ = 0;
+    clock_.start(static_cast<int>(1000 / std::clamp(framesPerSecond_, kSlowest, kFastest)));
+  }
+  Settled(serial);
+}
+
+void QtSurface::CountOn() {
+  counted_ = counted_ % totalFrames_ + 1;
+  if (totalFrames_ == 1) clock_.stop();
+  Shown(serial_, counted_);
 }
 
 void QtSurface::SetTarget(QSize pixels) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -38,7 +39,9 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   // All that a program that knows nothing must be told.
   void TellAll();
   void Shown(qint64 serial, int frame);
+  // The movie is up, or cannot be shown.
   void Settled(qint64 serial);
+  void Refused(qint64 serial);
   void PictureWaits();
 
  private:
@@ -70,6 +73,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   void Offer(const QImage& picture);
   void Leave();
   void EndMovie();
+  void CountOn();
 
   QtFlash& flash_;
   FlashListener& listener_;
@@ -79,6 +83,7 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   std::string path_;  // what was put last
   FlashLooks looks_;
   int totalFrames_ = 0;
+  double framesPerSecond_ = 0;
   QSize stage_;  // of the movie
   std::vector<std::pair<std::string, std::string>> variables_;
   bool waits_ = false;      // a movie that was put is not begun yet
@@ -89,6 +94,8 @@ class QtSurface : public QObject, public FlashSurface, public ShowsFrames {
   qint64 loading_ = 0;  // of the movie that is coming up
   std::string begun_;   // its file
   FlashLooks begunLooks_;
+  QTimer clock_;     // counts a movie that cannot be played
+  int counted_ = 0;  // how far
 
   QSize target_;
   std::optional<QRgb> key_;

@@ -58,6 +58,17 @@ TYPED_TEST(FlashContractTest, AMovieOfOneFrameIsToldOnce) {
   EXPECT_EQ(this->frames, std::vector<int>{1});
 }
 
+TYPED_TEST(FlashContractTest, AMovieThatCannotBePlayedIsCountedByTheClockWhileWhatWasShownStays) {
+  this->surface->Put(this->world.UnplayableMovie("unplayable.swf", 6));
+  EXPECT_EQ(this->surface->TotalFrames(), 6);
+  ASSERT_TRUE(this->world.Until([&] { return this->frames.size() >= 13; }));
+  for (std::size_t i = 0; i < this->frames.size(); ++i) EXPECT_EQ(this->frames[i], static_cast<int>(i % 6) + 1);
+  this->surface->Put(this->world.Movie("next.swf", 300));
+  this->frames.clear();
+  ASSERT_TRUE(this->Comes(20));
+  for (std::size_t i = 0; i < this->frames.size(); ++i) EXPECT_EQ(this->frames[i], static_cast<int>(i) + 1);
+}
+
 TYPED_TEST(FlashContractTest, ThePutOfTheSamePathStartsTheMovieAgain) {
   const std::string movie = this->world.Movie("again.swf", 100);
   this->surface->Put(movie);

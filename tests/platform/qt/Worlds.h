@@ -16,6 +16,7 @@
 #include "platform/qt/scene/PictureLoader.h"
 #include "platform/qt/web/QtBrowser.h"
 #include "platform/sim/SimWorld.h"
+#include "platform/swf/Bytes.h"
 #include "tests/platform/qt/TestMedia.h"
 #include "tests/platform/swf/MovieWriter.h"
 
@@ -46,6 +47,11 @@ class VirtualWorld {
     sim.flash.SetMovie("/" + name, frames);
     return "/" + name;
   }
+  // One whose header is right, and of which nothing is ever seen.
+  std::string UnplayableMovie(const std::string& name, int frames) {
+    sim.flash.SetWithoutBeginning(Movie(name, frames));
+    return "/" + name;
+  }
   static std::string Absent() { return "/absent.mp4"; }
 
   SimWorld sim;
@@ -66,6 +72,12 @@ class RealWorld {
   static std::string Movie(const std::string& name, int frames) {
     std::string tags;
     for (int i = 0; i < frames; ++i) tags += test_movies::Show();
+    return test_media::Text(name, test_movies::Plain(tags + test_movies::End(), {.frameCount = frames}));
+  }
+  // It takes something from a movie that is not there.
+  static std::string UnplayableMovie(const std::string& name, int frames) {
+    constexpr int kImportAssets2 = 71;
+    const std::string tags = swf::WriteTag(kImportAssets2, std::string("missing.swf\0\1\0\1\0\1\0x\0", 20));
     return test_media::Text(name, test_movies::Plain(tags + test_movies::End(), {.frameCount = frames}));
   }
   static std::string Absent() { return test_media::PathOf("absent.mp4"); }

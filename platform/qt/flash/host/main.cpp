@@ -16,8 +16,8 @@ constexpr char kBrowser[] =
     "--process-per-site --no-unsandboxed-zygote "
     "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory\"";
 
-// The renderer's threads would each keep a heap of their own, in which what one movie after the other leaves free is never
-// given back: read by the C library when it begins, and so for the processes that come after this one.
+// The renderer's threads would each keep a heap of their own, in which what one movie after the other leaves free is
+// never given back: read by the C library when it begins, and so for the processes that come after this one.
 void KeepHeapsSmall() {
   qputenv("MALLOC_ARENA_MAX", "1");
   qputenv("MALLOC_MMAP_THRESHOLD_", "131072");
