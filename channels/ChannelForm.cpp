@@ -13,6 +13,9 @@ std::string Counted(const char* words, const ListBox& list) {
   return words + std::string(" (") + std::to_string(list.ListCount()) + ")";
 }
 
+// The channels of the type in that row of the list; with no row selected, -1, the statement fails.
+IniKeys ChannelsAt(IniFile& file, int row) { return file.Sections().Item(static_cast<std::size_t>(row) + 1).Keys(); }
+
 }  // namespace
 
 // The button that adds a channel is captioned "&Add channel" at the radio and "Preview" at TV, and the other one of the
@@ -82,7 +85,7 @@ void ChannelForm::TellStatus() { lblStatus.Caption = Output().PlayerOnline.statu
 // By its number, so that of two types of one name each shows its own channels.
 void ChannelForm::ListType_Click() {
   ListChannel.Clear();
-  const IniKeys channels = File().Sections().Item(static_cast<std::size_t>(ListType.ListIndex + 1)).Keys();
+  const IniKeys channels = ChannelsAt(File(), ListType.ListIndex);
   for (std::size_t i = 1; i <= channels.Count(); ++i) ListChannel.AddItem(channels.Item(i).Name);
   TellTypes();
   TellChannels();
@@ -139,7 +142,7 @@ void ChannelForm::DeleteChannel() {
   if (MsgBox(question, Buttons::kYesNo, kDeleteTitle) != Answer::kYes) return;
   SkippingFailures(
       [&] {
-        IniKeys channels = File().Sections().Item(static_cast<std::size_t>(type + 1)).Keys();
+        IniKeys channels = ChannelsAt(File(), type);
         if (isSelected) channels.Remove(channel);
       },
       [this] { ListType_Click(); });
