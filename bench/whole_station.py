@@ -14,12 +14,13 @@ from composed import ROOT, clip, picture
 from crawl import TICKS, counts
 from harness import ini
 from harness.desk import Desk
-from harness.station import MOVIES, Station
+from harness.station import PROGRAM as STATION
+from harness.station import Station
 from meter import Meter, own_of_tree, pss_of_tree, x_server
 
 import movies  # the station's own, which the demo makes
 
-PROGRAM = MOVIES.with_name("station_on_air")
+PROGRAM = STATION.with_name("station_on_air")
 SETTLED = 20
 LOOKS = 30  # at the memory, in all
 SCREEN = 1920, 1080
