@@ -36,6 +36,9 @@ DESKS = [
     ("frmLeftSideAdSett", (*AD_SETTINGS, "Left side Ad settings"), [([], None, "left-side-ads")]),
     ("frmLogoSett", ("Logo", "Logo settings"),
      [([("Demo", "list item"), ("logo.swf", "list item")], None, "logo-library")]),
+    ("frmStikerSett", ("Stiker", "Settings"), [([("Demo", "list item")], None, "sticker-library")]),
+    ("frmClockSett", ("Clock", "Clock settings"), [([("Demo", "list item")], None, "clock-library")]),
+    ("frmAbout", ("Help", "Ahout"), [([], None, "about")]),
     ("frmBreakingNewsSett", ("Breaking nws", "Settings"), [([(stage.HEADLINES[0], "table cell")], None, "news-desk")]),
     ("frmPageSettings", ("Web feed", "Settings"),
      [([("Town board", "list item"), ("Preview",)], None, "web-feed-desk")]),
@@ -43,6 +46,7 @@ DESKS = [
     # Opens on a machine that is on line alone.
     ("frmOnlineTV", ("Online channels", "TV channels"),
      [([("Television", "list item"), ("Preview", "check box"), ("Test card", "list item")], None, "online-channels")]),
+    ("frmOnlineRadio", ("Online channels", "Radio channel"), [([("Music", "list item")], None, "radio-channels")]),
 ]  # fmt: skip
 
 
