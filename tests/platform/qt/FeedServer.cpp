@@ -2,6 +2,12 @@
 
 #include <QTcpSocket>
 
+namespace {
+
+constexpr qint64 kLongestQuestion = 64 * 1024;
+
+}  // namespace
+
 FeedServer::FeedServer() {
   if (!server_.listen(QHostAddress::LocalHost)) qFatal("cannot listen");
   QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { Serve(); });
@@ -26,24 +32,31 @@ void FeedServer::Flood(const std::string& path) {
   PutRaw(path, "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n<rss>");
 }
 
+// One question for each connection, which is closed behind the answer; what else a client may have sent on it by then
+// it asks again on another one.
 void FeedServer::Serve() {
   while (QTcpSocket* socket = server_.nextPendingConnection()) {
     QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-      const QByteArray question = socket->readAll();
-      const std::string path = question.split(' ').value(1).toStdString();
-      asked.append(QString::fromStdString(path));
-      const auto found = answers_.find(path);
-      const bool isThere = found != answers_.end();
-      if (isThere && found->second.isEmpty()) return;
-      const QByteArray absent = "HTTP/1.1 404 Not Found\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
-      socket->write(isThere ? found->second : absent);
-      if (path != flooded_) return socket->disconnectFromHost();
-      const auto more = [socket] {
-        while (socket->bytesToWrite() < 65536) socket->write(QByteArray(65536, ' '));
-      };
-      QObject::connect(socket, &QTcpSocket::bytesWritten, socket, more);
-      more();
+      const QByteArray question = socket->peek(kLongestQuestion);
+      if (!question.contains("\r\n\r\n")) return;
+      QObject::disconnect(socket, &QTcpSocket::readyRead, nullptr, nullptr);
+      Answer(*socket, question.split(' ').value(1).toStdString());
     });
   }
+}
+
+void FeedServer::Answer(QTcpSocket& socket, const std::string& path) {
+  asked.append(QString::fromStdString(path));
+  const auto found = answers_.find(path);
+  const bool isThere = found != answers_.end();
+  if (isThere && found->second.isEmpty()) return;
+  const QByteArray absent = "HTTP/1.1 404 Not Found\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
+  socket.write(isThere ? found->second : absent);
+  if (path != flooded_) return socket.disconnectFromHost();
+  const auto more = [&socket] {
+    while (socket.bytesToWrite() < 65536) socket.write(QByteArray(65536, ' '));
+  };
+  QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket, more);
+  more();
 }

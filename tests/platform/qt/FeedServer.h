@@ -6,6 +6,8 @@
 #include <map>
 #include <string>
 
+class QTcpSocket;
+
 // Serves what the test puts there, over http on loopback, from the test's own event loop.
 class FeedServer {
  public:
@@ -30,6 +32,7 @@ class FeedServer {
 
  private:
   void Serve();
+  void Answer(QTcpSocket& socket, const std::string& path);
 
   QTcpServer server_;
   std::map<std::string, QByteArray> answers_;
