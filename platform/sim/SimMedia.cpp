@@ -174,7 +174,8 @@ void SimPlayer::SetPosition(double seconds) {
 
 double SimPlayer::Duration() const {
   const double length = Length();
-  return length == 0 && opened_ && !takesUp_ ? Position() : length;
+  const bool grows = length == 0 && opened_ && !takesUp_ && SourceOf(url_) == MediaSource::kStream;
+  return grows ? Position() : length;
 }
 
 double SimPlayer::Length() const {
