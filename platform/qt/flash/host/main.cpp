@@ -11,10 +11,13 @@ namespace {
 // One process renders all pages. None is kept for starting processes without a box: none of those is ever many.
 //
 // Of the player's code each function is looked through and translated when it is first called, since the most of it
-// never is. Locking the memory that it goes into behind each of them would take longer than translating it does.
+// never is. Locking the memory that it goes into behind each of them would take longer than translating it does. What
+// is called often is translated once more, better, on other threads: not before the first movie is up, which would wait
+// for them.
 constexpr char kBrowser[] =
     "--process-per-site --no-unsandboxed-zygote "
-    "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory\"";
+    "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory "
+    "--wasm-tiering-budget=30000000\"";
 
 // The renderer's threads would each keep a heap of their own, in which what one movie after the other leaves free is
 // never given back: read by the C library when it begins, and so for the processes that come after this one.
