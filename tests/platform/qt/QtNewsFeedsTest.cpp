@@ -9,6 +9,7 @@
 #include <QSslServer>
 #include <QTcpSocket>
 #include <QThread>
+#include <algorithm>
 
 #include "platform/qt/feeds/QtNewsFeeds.h"
 #include "tests/platform/qt/FeedServer.h"
@@ -56,7 +57,9 @@ TEST_F(QtNewsFeedsTest, StepsInACircleAreNotFollowedForEver) {
   server.Redirect("/a", "/b");
   server.Redirect("/b", "/a");
   EXPECT_EQ(Fetched(server.At("/a")), std::nullopt);
-  EXPECT_LE(server.asked.size(), 7);
+  // Where a connection is closed just as the client would use it again, it asks the same once more on another one.
+  server.asked.erase(std::unique(server.asked.begin(), server.asked.end()), server.asked.end());
+  EXPECT_LE(server.asked.size(), 6);
 }
 
 TEST_F(QtNewsFeedsTest, NoStepLeadsToAFileOrToAnotherScheme) {
