@@ -1,7 +1,7 @@
 #include "platform/qt/flash/QtFlash.h"
 
+#include "platform/qt/flash/MovieWire.h"
 #include "platform/qt/flash/QtSurface.h"
-#include "platform/qt/flash/Wire.h"
 
 QtFlash::QtFlash(PictureLoader& pictures, std::string program)
     : pictures_(pictures),

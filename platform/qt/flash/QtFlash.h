@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/Flash.h"
-#include "platform/qt/flash/MovieProgram.h"
+#include "platform/qt/programs/SideProgram.h"
 
 class PictureLoader;
 class QtSurface;
@@ -22,7 +22,7 @@ class QtFlash : public QObject, public FlashEngine {
 
   // For the surfaces.
   PictureLoader& Pictures() { return pictures_; }
-  MovieProgram& Program() { return program_; }
+  SideProgram& Program() { return program_; }
   qint64 NewSerial() { return ++lastSerial_; }
   int Add(QtSurface& surface);
   void Remove(int slot);
@@ -38,7 +38,7 @@ class QtFlash : public QObject, public FlashEngine {
 
   PictureLoader& pictures_;
   std::map<int, QtSurface*> surfaces_;
-  MovieProgram program_;
+  SideProgram program_;
   int lastSlot_ = 0;
   qint64 lastSerial_ = 0;
   bool beginning_ = false;

@@ -8,8 +8,8 @@
 #include <algorithm>
 
 #include "platform/qt/flash/MovieHeader.h"
+#include "platform/qt/flash/MovieWire.h"
 #include "platform/qt/flash/QtFlash.h"
-#include "platform/qt/flash/Wire.h"
 
 namespace {
 
@@ -157,7 +157,7 @@ void QtSurface::TellSlot() {
 }
 
 void QtSurface::TellPut() {
-  MovieProgram& program = flash_.Program();
+  SideProgram& program = flash_.Program();
   program.Send({wire::kPut, slot_, serial_, QString::fromStdString(begun_), begunLooks_.fit == FlashLooks::Fit::kFill,
                 begunLooks_.back == FlashLooks::Back::kSeeThrough, begunLooks_.silent});
   for (const auto& [name, value] : variables_) {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "platform/Flash.h"
-#include "platform/qt/flash/SharedFrames.h"
 #include "platform/qt/frames/FrameSource.h"
+#include "platform/qt/programs/SharedFrames.h"
 #include "platform/qt/scene/PictureLoader.h"
 
 class QtFlash;

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/Browser.h"
-#include "platform/qt/flash/MovieProgram.h"
+#include "platform/qt/programs/SideProgram.h"
 
 class QtPage;
 
@@ -22,7 +22,7 @@ class QtBrowser : public QObject, public BrowserEngine {
   std::unique_ptr<BrowserSurface> NewSurface(const std::string& name, BrowserListener& listener) override;
 
   // For the surfaces.
-  MovieProgram& Program() { return program_; }
+  SideProgram& Program() { return program_; }
   qint64 NewSerial() { return ++lastSerial_; }
   int Add(QtPage& page);
   void Remove(int slot);
@@ -33,7 +33,7 @@ class QtBrowser : public QObject, public BrowserEngine {
 
   std::map<int, QtPage*> pages_;
   std::string profileFolder_;
-  MovieProgram program_;
+  SideProgram program_;
   QElapsedTimer sinceBegun_;
   int lastSlot_ = 0;
   qint64 lastSerial_ = 0;

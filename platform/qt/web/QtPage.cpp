@@ -85,7 +85,7 @@ void QtPage::Loaded(qint64 serial) {
 }
 
 void QtPage::Take(const QEvent& event) {
-  MovieProgram& program = browser_.Program();
+  SideProgram& program = browser_.Program();
   const auto kind = static_cast<int>(event.type());
   switch (event.type()) {
     case QEvent::MouseButtonPress:

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "platform/Browser.h"
-#include "platform/qt/flash/SharedFrames.h"
 #include "platform/qt/frames/FrameSource.h"
 #include "platform/qt/frames/TakesInput.h"
+#include "platform/qt/programs/SharedFrames.h"
 
 class QtBrowser;
 

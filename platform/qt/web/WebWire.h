@@ -1,9 +1,8 @@
 #pragma once
 
-#include "platform/qt/flash/Wire.h"
+#include "platform/qt/programs/Wire.h"
 
-// What the station and the program that shows its pages tell each other, beside what every such program is told: a slot
-// with the memory for its pictures, that pictures wait there, and that it has ended.
+// What the station and the program that shows its pages tell each other, beside what every such program is told.
 namespace wire {
 
 // Station to browser.

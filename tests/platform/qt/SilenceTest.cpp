@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <optional>
 
+#include "platform/qt/flash/MovieWire.h"
 #include "platform/qt/flash/QtFlash.h"
-#include "platform/qt/flash/Wire.h"
 #include "platform/qt/frames/FrameSource.h"
 #include "platform/qt/scene/PictureLoader.h"
 #include "tests/platform/qt/TestMedia.h"

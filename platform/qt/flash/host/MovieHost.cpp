@@ -10,7 +10,7 @@
 #include <QtWebEngineQuick/QQuickWebEngineProfile>
 #include <algorithm>
 
-#include "platform/qt/flash/Wire.h"
+#include "platform/qt/flash/MovieWire.h"
 #include "platform/swf/Container.h"
 #include "platform/swf/MakeReporting.h"
 

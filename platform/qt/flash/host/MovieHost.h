@@ -8,9 +8,9 @@
 #include <memory>
 #include <optional>
 
-#include "platform/qt/flash/Channel.h"
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/Page.h"
+#include "platform/qt/programs/Channel.h"
 
 // Plays the station's movies in two unseen pages of one renderer process, each where its page grows least, so that both
 // stay small. Brings movies back when the renderer or the player fails, and keeps those out that make it fail.

@@ -10,7 +10,7 @@
 
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/LineReceiver.h"
-#include "platform/qt/flash/host/Lives.h"
+#include "platform/qt/programs/host/Lives.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <map>
 #include <memory>
 
-#include "platform/qt/flash/SharedFrames.h"
 #include "platform/qt/flash/host/Shelves.h"
+#include "platform/qt/programs/SharedFrames.h"
 
 class QQmlEngine;
 class QQuickItem;

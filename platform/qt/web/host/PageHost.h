@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/qt/flash/Channel.h"
+#include "platform/qt/programs/Channel.h"
 #include "platform/qt/web/host/WebPage.h"
 
 class QQuickWebEngineProfile;

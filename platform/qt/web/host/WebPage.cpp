@@ -14,7 +14,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/qt/flash/host/Lives.h"
+#include "platform/qt/programs/host/Lives.h"
 #include "platform/qt/web/WebWire.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/qt/flash/SharedFrames.h"
+#include "platform/qt/programs/SharedFrames.h"
 #include "platform/qt/web/host/Gate.h"
 
 class QCborArray;

@@ -7,7 +7,7 @@
 #include <memory>
 #include <optional>
 
-#include "platform/qt/flash/Channel.h"
+#include "platform/qt/programs/Channel.h"
 
 // Three pictures in rotation between two programs, in memory that both see: one is shown, one waits to be shown, one is
 // painted. Neither side ever waits for the other, and a picture that is shown is never written. One side paints, the

@@ -1,4 +1,4 @@
-#include "platform/qt/flash/MovieProgram.h"
+#include "platform/qt/programs/SideProgram.h"
 
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -8,7 +8,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "platform/qt/flash/Wire.h"
+#include "platform/qt/flash/MovieWire.h"
 
 namespace {
 
@@ -22,14 +22,14 @@ constexpr milliseconds kLongestPause{30'000};
 
 }  // namespace
 
-MovieProgram::MovieProgram(std::string path, Heard heard, std::function<void()> begun)
+SideProgram::SideProgram(std::string path, Heard heard, std::function<void()> begun)
     : path_(std::move(path)), heard_(std::move(heard)), begun_(std::move(begun)) {
   startAgain_.setSingleShot(true);
   startAgain_.setInterval(kFirstPause);
-  connect(&startAgain_, &QTimer::timeout, this, &MovieProgram::Start);
+  connect(&startAgain_, &QTimer::timeout, this, &SideProgram::Start);
 }
 
-MovieProgram::~MovieProgram() {
+SideProgram::~SideProgram() {
   channel_.reset();
   if (!process_) return;
   process_->disconnect(this);
@@ -38,7 +38,7 @@ MovieProgram::~MovieProgram() {
 }
 
 // Nobody waits for its end: it comes when it comes.
-void MovieProgram::Stop() {
+void SideProgram::Stop() {
   startAgain_.stop();
   channel_.reset();
   if (!process_) return;
@@ -48,7 +48,7 @@ void MovieProgram::Stop() {
   connect(ending, &QProcess::finished, ending, &QObject::deleteLater);
 }
 
-void MovieProgram::Start() {
+void SideProgram::Start() {
   if (channel_ || startAgain_.isActive()) return;
   auto ends = Channel::Pair();
   if (!ends) return;
@@ -63,7 +63,7 @@ void MovieProgram::Start() {
       dup2(end, kItsDescriptor);
     }
   });
-  const auto ended = [this] { QMetaObject::invokeMethod(this, &MovieProgram::Ended, Qt::QueuedConnection); };
+  const auto ended = [this] { QMetaObject::invokeMethod(this, &SideProgram::Ended, Qt::QueuedConnection); };
   connect(process_.get(), &QProcess::finished, this, ended);
   connect(process_.get(), &QProcess::errorOccurred, this, ended);
   channel_ = std::make_unique<Channel>(
@@ -73,11 +73,11 @@ void MovieProgram::Start() {
   begun_();
 }
 
-void MovieProgram::Send(const QCborArray& message, std::shared_ptr<const Descriptor> with) {
+void SideProgram::Send(const QCborArray& message, std::shared_ptr<const Descriptor> with) {
   if (channel_) channel_->Send(wire::Message(message), std::move(with));
 }
 
-void MovieProgram::Ended() {
+void SideProgram::Ended() {
   if (!channel_) return;
   channel_.reset();
   process_->disconnect(this);

@@ -1,4 +1,4 @@
-#include "platform/qt/flash/Channel.h"
+#include "platform/qt/programs/Channel.h"
 
 #include <sys/socket.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "platform/qt/flash/host/Lives.h"
+#include "platform/qt/programs/host/Lives.h"
 
 #include <QFile>
 

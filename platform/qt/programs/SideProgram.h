@@ -9,18 +9,18 @@
 #include <memory>
 #include <string>
 
-#include "platform/qt/flash/Channel.h"
+#include "platform/qt/programs/Channel.h"
 
 // A program that plays movies or shows pages, in a process of its own: a browser's faults must not take the station off
-// the air, and its work must not hold up the station's thread. It is started by the first message, started again when
-// it ends, and ends with this object, or with this process however that ends.
-class MovieProgram : public QObject {
+// the air, and its work must not hold up the station's thread. Once started it is started again whenever it ends, and
+// it ends with this object, or with this process however that ends.
+class SideProgram : public QObject {
  public:
   using Heard = std::function<void(const QCborArray& message)>;
 
   // `begun` is called after each start: the program knows nothing yet.
-  MovieProgram(std::string path, Heard heard, std::function<void()> begun);
-  ~MovieProgram() override;
+  SideProgram(std::string path, Heard heard, std::function<void()> begun);
+  ~SideProgram() override;
 
   bool IsRunning() const { return channel_ != nullptr; }
   // Without effect while it is not running.

@@ -1,4 +1,4 @@
-#include "platform/qt/flash/SharedFrames.h"
+#include "platform/qt/programs/SharedFrames.h"
 
 #include <sys/mman.h>
 #include <sys/stat.h>
