@@ -14,7 +14,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr int kItsDescriptor = 3;
 // One that does not even live so long is started again ever more seldom.
 constexpr milliseconds kAGoodLife{10'000};
 constexpr milliseconds kFirstPause{0};
@@ -57,10 +56,10 @@ void SideProgram::Start() {
   process_->setStandardInputFile(QProcess::nullDevice());
   process_->setChildProcessModifier([end = ends->second.Number()] {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (end == kItsDescriptor) {
+    if (end == wire::kStation) {
       fcntl(end, F_SETFD, 0);
     } else {
-      dup2(end, kItsDescriptor);
+      dup2(end, wire::kStation);
     }
   });
   const auto ended = [this] { QMetaObject::invokeMethod(this, &SideProgram::Ended, Qt::QueuedConnection); };

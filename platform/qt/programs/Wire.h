@@ -8,6 +8,9 @@
 // about. A slot is a place that shows movies or pages, by a number of the station's.
 namespace wire {
 
+// The descriptor that a program finds the station at.
+inline constexpr int kStation = 3;
+
 // Station to program.
 inline constexpr char kSlot[] = "slot";  // slot, width, height; with the memory for its pictures, or 0, 0 for unseen
 inline constexpr char kEnd[] = "end";    // slot

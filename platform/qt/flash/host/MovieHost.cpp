@@ -1,8 +1,5 @@
 #include "platform/qt/flash/host/MovieHost.h"
 
-#include <unistd.h>
-
-#include <QCborArray>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -57,11 +54,8 @@ std::optional<swf::ReportingMovie> ReadMovie(const QString& path) {
 
 }  // namespace
 
-MovieHost::MovieHost(Descriptor station)
-    : channel_(
-          std::move(station),
-          [this](const QByteArray& message, Descriptor memory) { Hear(message, std::move(memory)); },
-          [] { _exit(0); }) {  // the station is gone; the browser's processes end with this one
+MovieHost::MovieHost()
+    : station_([this](const QCborArray& message, Descriptor memory) { Hear(message, std::move(memory)); }) {
   QQuickWebEngineProfile* profile = QQuickWebEngineProfile::defaultProfile();
   profile->setOffTheRecord(true);
   profile->installUrlSchemeHandler("station", &answers_);
@@ -78,7 +72,7 @@ Page& MovieHost::PageAt(int number) {
                                                        [this](const QList<int>& changed) {
                                                          QCborArray message{wire::kPictures};
                                                          for (const int slot : changed) message << slot;
-                                                         channel_.Send(wire::Message(message));
+                                                         station_.Send(message);
                                                        },
                                                        [this] { Died(); }});
   }
@@ -87,8 +81,7 @@ Page& MovieHost::PageAt(int number) {
 
 Page& MovieHost::PageOf(const Slot& slot) { return PageAt(slot.page); }
 
-void MovieHost::Hear(const QByteArray& message, Descriptor memory) {
-  const QCborArray parts = wire::Parts(message);
+void MovieHost::Hear(const QCborArray& parts, Descriptor memory) {
   const QString about = parts[0].toString();
   const auto number = static_cast<int>(parts[1].toInteger());
   if (about == wire::kSlot) {
@@ -130,7 +123,7 @@ int MovieHost::PageFor(int number, const Slot& slot) const {
 // A movie that changes its page begins there anew.
 void MovieHost::Resize(int number, QSize size, Descriptor memory) {
   Slot& slot = slots_[number];
-  slot.frames = size.isEmpty() ? nullptr : SharedFrames::Open(std::move(memory), size);
+  slot.frames = SharedFrames::Open(std::move(memory), size);
   slot.size = slot.frames ? size : kUnseen;
   const int page = slot.frames ? PageFor(number, slot) : slot.page;
   const bool moves = page != slot.page && slot.movie && (slot.movie->load > 0 || comingBack_);
@@ -215,7 +208,7 @@ void MovieHost::End(int number) {
 void MovieHost::Refuse(int number) {
   Slot& slot = slots_[number];
   if (!slot.movie) return;
-  channel_.Send(wire::Message({wire::kBad, number, slot.movie->serial}));
+  station_.Send({wire::kBad, number, slot.movie->serial});
   Forget(slot);
 }
 
@@ -225,7 +218,7 @@ void MovieHost::Told(int page, const QJsonArray& line) {
     const QJsonArray list = line[1].toArray();
     QCborArray message{wire::kFrames};
     for (const QJsonValue& one : list) message << one.toInteger();
-    channel_.Send(wire::Message(message));
+    station_.Send(message);
   } else if (what == "up" || what == "bad") {
     const int number = line[1].toInt();
     const qint64 serial = line[2].toInteger();
@@ -235,7 +228,7 @@ void MovieHost::Told(int page, const QJsonArray& line) {
     if (what == "bad" && isPresent) {
       Refuse(number);
     } else {
-      channel_.Send(wire::Message({what == "up" ? wire::kUp : wire::kBad, number, serial}));
+      station_.Send({what == "up" ? wire::kUp : wire::kBad, number, serial});
     }
   } else if (what == "panic") {
     Panicked(page, line.size() > 1 ? std::optional(line[1].toInt()) : std::nullopt);

@@ -10,13 +10,13 @@
 
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/Page.h"
-#include "platform/qt/programs/Channel.h"
+#include "platform/qt/programs/host/StationLink.h"
 
 // Plays the station's movies in two unseen pages of one renderer process, each where its page grows least, so that both
 // stay small. Brings movies back when the renderer or the player fails, and keeps those out that make it fail.
 class MovieHost : public QObject {
  public:
-  explicit MovieHost(Descriptor station);
+  MovieHost();
   ~MovieHost() override;
 
  private:
@@ -39,7 +39,7 @@ class MovieHost : public QObject {
   };
   static constexpr int kPages = 2;
 
-  void Hear(const QByteArray& message, Descriptor memory);
+  void Hear(const QCborArray& parts, Descriptor memory);
   void Resize(int number, QSize size, Descriptor memory);
   void Put(int number, Movie movie);
   void Load(int number);
@@ -59,7 +59,7 @@ class MovieHost : public QObject {
   std::optional<int> LastLoaded(std::optional<int> page) const;
   void Refuse(int number);
 
-  Channel channel_;
+  StationLink station_;
   Answers answers_;
   QQmlEngine engine_;
   std::array<std::unique_ptr<Page>, kPages> pages_;

@@ -1,10 +1,8 @@
 #include <QGuiApplication>
-#include <QLoggingCategory>
-#include <QQuickWindow>
-#include <QSGRendererInterface>
 
 #include "platform/qt/flash/host/Answers.h"
 #include "platform/qt/flash/host/MovieHost.h"
+#include "platform/qt/programs/host/Unseen.h"
 
 namespace {
 
@@ -29,17 +27,14 @@ void KeepHeapsSmall() {
 
 }  // namespace
 
-// Plays the movies of the station that started it, which is at the other end of descriptor 3; it ends with it.
+// Plays the movies of the station that started it, and ends with it.
 int main(int argc, char** argv) {
   KeepHeapsSmall();
-  qputenv("QT_QPA_PLATFORM", "offscreen");  // nothing of it is ever on a screen
+  SettleUnseen();
   qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
-  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", kBrowser);
-  QLoggingCategory::setFilterRules("qt.webenginecontext*=false\njs*=false\nqt.qml*=false");
-  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   Answers::RegisterScheme();
   QGuiApplication application(argc, argv);
-  MovieHost host{Descriptor(3)};
+  MovieHost host;
   return QGuiApplication::exec();
 }

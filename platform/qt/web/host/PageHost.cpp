@@ -1,19 +1,13 @@
 #include "platform/qt/web/host/PageHost.h"
 
-#include <unistd.h>
-
-#include <QCborArray>
 #include <QDir>
 #include <QFileInfo>
 #include <QtWebEngineQuick/QQuickWebEngineProfile>
 
 #include "platform/qt/web/WebWire.h"
 
-PageHost::PageHost(Descriptor station)
-    : channel_(
-          std::move(station),
-          [this](const QByteArray& message, Descriptor memory) { Hear(message, std::move(memory)); },
-          [] { _exit(0); }) {}  // the station is gone; the browser's processes end with this one
+PageHost::PageHost()
+    : station_([this](const QCborArray& message, Descriptor memory) { Hear(message, std::move(memory)); }) {}
 
 PageHost::~PageHost() { pages_.clear(); }
 
@@ -35,29 +29,26 @@ void PageHost::MakeProfile(const QString& folder, bool throwsAway) {
 WebPage& PageHost::PageAt(int slot) {
   auto& page = pages_[slot];
   if (page) return *page;
-  page = std::make_unique<WebPage>(
-      engine_, *profile_, guard_,
-      WebPage::Listener{[this, slot] {
-                          channel_.Send(wire::Message({wire::kPictures, slot}));
-                        },
-                        [this, slot](const QString& text) {
-                          channel_.Send(wire::Message({wire::kStatus, slot, serials_[slot], text}));
-                        },
-                        [this, slot] {
-                          channel_.Send(wire::Message({wire::kLoaded, slot, serials_[slot]}));
-                        }});
+  page = std::make_unique<WebPage>(engine_, *profile_, guard_,
+                                   WebPage::Listener{[this, slot] {
+                                                       station_.Send({wire::kPictures, slot});
+                                                     },
+                                                     [this, slot](const QString& text) {
+                                                       station_.Send({wire::kStatus, slot, serials_[slot], text});
+                                                     },
+                                                     [this, slot] {
+                                                       station_.Send({wire::kLoaded, slot, serials_[slot]});
+                                                     }});
   return *page;
 }
 
-void PageHost::Hear(const QByteArray& message, Descriptor memory) {
-  const QCborArray parts = wire::Parts(message);
+void PageHost::Hear(const QCborArray& parts, Descriptor memory) {
   const QString about = parts[0].toString();
   if (about == wire::kProfile) return MakeProfile(parts[1].toString(), parts[2].toBool());
   const auto number = [&parts](qsizetype place) { return static_cast<int>(parts[place].toInteger()); };
   const int slot = number(1);
   if (about == wire::kSlot) {
-    const QSize size(number(2), number(3));
-    PageAt(slot).Place(size.isEmpty() ? nullptr : SharedFrames::Open(std::move(memory), size));
+    PageAt(slot).Place(SharedFrames::Open(std::move(memory), {number(2), number(3)}));
   } else if (about == wire::kOpen) {
     serials_[slot] = parts[2].toInteger();
     PageAt(slot).Open(QUrl(parts[3].toString()));

@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/qt/programs/Channel.h"
+#include "platform/qt/programs/host/StationLink.h"
 #include "platform/qt/web/host/WebPage.h"
 
 class QQuickWebEngineProfile;
@@ -13,15 +13,15 @@ class QQuickWebEngineProfile;
 // Shows the station's web pages. What they may keep between runs lies in one folder of the station's.
 class PageHost : public QObject {
  public:
-  explicit PageHost(Descriptor station);
+  PageHost();
   ~PageHost() override;
 
  private:
-  void Hear(const QByteArray& message, Descriptor memory);
+  void Hear(const QCborArray& parts, Descriptor memory);
   void MakeProfile(const QString& folder, bool throwsAway);
   WebPage& PageAt(int slot);
 
-  Channel channel_;
+  StationLink station_;
   QQmlEngine engine_;
   Guard guard_;
   std::unique_ptr<QQuickWebEngineProfile> profile_;
