@@ -150,10 +150,7 @@ void QtSurface::TellSlot() {
   const QSize wanted = WantedSize();
   if (wanted == told_) return;
   told_ = wanted;
-  auto frames = SharedFrames::Make(wanted);
-  const QSize size = frames ? wanted : QSize(0, 0);
-  flash_.Program().Send({wire::kSlot, slot_, size.width(), size.height()}, frames ? frames->Memory() : nullptr);
-  shared_ = std::move(frames);
+  shared_ = flash_.GiveFrames(slot_, wanted);
 }
 
 void QtSurface::TellPut() {

@@ -54,10 +54,7 @@ void QtPage::TellLooks() {
 }
 
 void QtPage::TellSlot() {
-  if (!browser_.Program().IsRunning()) return;
-  shared_ = target_.isEmpty() ? nullptr : SharedFrames::Make(target_);
-  const QSize size = shared_ ? target_ : QSize(0, 0);
-  browser_.Program().Send({wire::kSlot, slot_, size.width(), size.height()}, shared_ ? shared_->Memory() : nullptr);
+  if (browser_.Program().IsRunning()) shared_ = browser_.GiveFrames(slot_, target_);
 }
 
 void QtPage::SetTarget(QSize pixels) {
