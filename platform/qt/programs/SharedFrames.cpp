@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstring>
+
 namespace {
 
 constexpr std::uint32_t kFresh = 4;
@@ -20,6 +22,10 @@ std::size_t BytesFor(QSize size) {
 }
 
 bool Fits(QSize size) { return !size.isEmpty() && size.width() <= kLongestSide && size.height() <= kLongestSide; }
+
+const uchar* RowFrom(const QImage& whole, QPoint corner, int row) {
+  return whole.constScanLine(corner.y() + row) + qsizetype{corner.x()} * 4;
+}
 
 }  // namespace
 
@@ -60,11 +66,22 @@ uchar* SharedFrames::Picture(std::uint32_t number) const {
          number % kPictures * 4 * static_cast<std::size_t>(size_.width()) * static_cast<std::size_t>(size_.height());
 }
 
-uchar* SharedFrames::Paint() { return Picture(own_); }
-
-void SharedFrames::Publish() {
+void SharedFrames::Publish(const QImage& whole, QPoint corner) {
+  for (int row = 0; row < size_.height(); ++row) {
+    std::memcpy(Row(own_, row), RowFrom(whole, corner, row), static_cast<std::size_t>(Stride()));
+  }
   published_ = own_;
   own_ = head_->waiting.exchange(own_ | kFresh, std::memory_order_acq_rel) & ~kFresh;
+}
+
+// Nobody writes what was published last.
+bool SharedFrames::Differs(const QImage& whole, QPoint corner) const {
+  if (!published_) return true;
+  for (int row = 0; row < size_.height(); ++row) {
+    const auto bytes = static_cast<std::size_t>(Stride());
+    if (std::memcmp(Row(*published_, row), RowFrom(whole, corner, row), bytes) != 0) return true;
+  }
+  return false;
 }
 
 std::optional<QImage> SharedFrames::Take(const std::shared_ptr<SharedFrames>& frames) {

@@ -25,13 +25,11 @@ class SharedFrames {
   // To be passed to the other program.
   std::shared_ptr<const Descriptor> Memory() const { return memory_; }
 
-  // The painting side: the rows that make the next picture, `Stride` bytes apart, premultiplied; then it waits to be
-  // shown.
-  uchar* Paint();
-  int Stride() const { return size_.width() * 4; }
-  void Publish();
-  // The rows of what was published last, which nobody writes; null before that.
-  const uchar* Published() const { return published_ ? Picture(*published_) : nullptr; }
+  // The painting side. The next picture is that part of a larger one, premultiplied, which has its corner there and
+  // lies in it whole. Publish: it waits to be shown.
+  void Publish(const QImage& whole, QPoint corner = {});
+  // Whether it is another one than was published last.
+  bool Differs(const QImage& whole, QPoint corner = {}) const;
 
   // The showing side. The newest picture, once; it stays untouched until the next call that gives one.
   static std::optional<QImage> Take(const std::shared_ptr<SharedFrames>& frames);
@@ -44,6 +42,8 @@ class SharedFrames {
   SharedFrames(std::shared_ptr<const Descriptor> memory, uchar* bytes, QSize size);
   static std::shared_ptr<SharedFrames> Map(std::shared_ptr<const Descriptor> memory, QSize size);
   uchar* Picture(std::uint32_t number) const;
+  uchar* Row(std::uint32_t number, int row) const { return Picture(number) + row * Stride(); }
+  int Stride() const { return size_.width() * 4; }
 
   std::shared_ptr<const Descriptor> memory_;
   uchar* bytes_;

@@ -1,24 +1,19 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QJsonArray>
 #include <QObject>
-#include <QQuickRenderControl>
-#include <QQuickWindow>
-#include <QTimer>
 #include <functional>
 #include <map>
 #include <memory>
 
 #include "platform/qt/flash/host/Shelves.h"
 #include "platform/qt/programs/SharedFrames.h"
+#include "platform/qt/programs/host/UnseenView.h"
 
 class QQmlEngine;
-class QQuickItem;
 
-// A web page that nobody sees, in a window that is never shown. It is painted into a picture whenever it changes, 60
-// times a second at most, and each slot on it gets its part of that picture.
+// A web page that nobody sees, of whose picture each slot on it gets its part.
 class Page : public QObject {
  public:
   struct Listener {
@@ -28,7 +23,6 @@ class Page : public QObject {
   };
 
   Page(QQmlEngine& engine, Listener listener);
-  ~Page() override;
 
   // A slot of that size, and where its pictures go; without frames it is not painted for anyone. It begins to give
   // pictures when the page has laid it out.
@@ -58,21 +52,14 @@ class Page : public QObject {
   void LayOut(int slot);
   void PaintSoon(int slot, bool Part::*now);
   void Fit();
-  void Ask();
   void Paint();
-  bool Changed(const Part& part) const;
   bool MustWait(const Part& part) const;
 
   Listener listener_;
-  QQuickRenderControl control_;
-  QImage picture_;  // what the window is painted into, only where it has changed
-  std::unique_ptr<QQuickWindow> window_;
-  QQuickItem* view_ = nullptr;
   Shelves shelves_;
   std::map<int, Part> parts_;
   QStringList calls_;  // that wait for the page
   bool ready_ = false;
   int reloads_ = 0;
-  QTimer due_;
-  QElapsedTimer sincePainted_;
+  UnseenView view_;  // behind all that it may still call when it ends
 };

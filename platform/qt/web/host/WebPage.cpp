@@ -4,14 +4,10 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
 #include <QWheelEvent>
 #include <QtWebEngineQuick/QQuickWebEngineProfile>
 #include <algorithm>
 #include <csignal>
-#include <cstring>
 #include <utility>
 
 #include "platform/qt/programs/host/Lives.h"
@@ -21,7 +17,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr int kBetweenPaintings = 16;  // milliseconds
 constexpr int kSomethingIsThere = 30;  // per cent of a page's loading: its first text is painted
 constexpr milliseconds kAGoodLife{10'000};
 constexpr milliseconds kFirstPause{250};
@@ -50,18 +45,9 @@ WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& gua
       gate_(guard, {[this] { Started(); }, [this] { Stopped(); }, [this](bool succeeded) { Ended(succeeded); },
                     [this](int percent) { Progress(percent); }, [this](const QString& address) { Hovered(address); },
                     [this] { Died(); }, [this] { unanswered_ = 0; }}),
-      window_(std::make_unique<QQuickWindow>(&control_)) {
-  window_->setColor(Qt::transparent);
-  QQmlComponent component(&engine, QUrl("qrc:/pages/View.qml"));
-  view_ = qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-      {{"gate", QVariant::fromValue<QObject*>(&gate_)}, {"profile", QVariant::fromValue(&profile)}}));
-  if (view_ == nullptr) qFatal("The page cannot be made: %s", qPrintable(component.errorString()));
-  view_->setParentItem(window_->contentItem());
-  connect(&control_, &QQuickRenderControl::sceneChanged, this, &WebPage::Ask);
-  connect(&control_, &QQuickRenderControl::renderRequested, this, &WebPage::Ask);
-  due_.setSingleShot(true);
-  due_.setTimerType(Qt::PreciseTimer);
-  connect(&due_, &QTimer::timeout, this, &WebPage::Paint);
+      view_(engine, QUrl("qrc:/pages/View.qml"),
+            {{"gate", QVariant::fromValue<QObject*>(&gate_)}, {"profile", QVariant::fromValue(&profile)}},
+            [this] { Paint(); }) {
   comeBack_.setSingleShot(true);
   comeBack_.setInterval(kFirstPause);
   connect(&comeBack_, &QTimer::timeout, this, &WebPage::ComeBack);
@@ -70,26 +56,18 @@ WebPage::WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& gua
   watch_.setInterval(kBetweenQuestions);
   connect(&watch_, &QTimer::timeout, this, &WebPage::SeeWhetherItAnswers);
   watch_.start();
-  sincePainted_.start();
-  window_->setGeometry(0, 0, kFirstSize.width(), kFirstSize.height());
-  window_->contentItem()->setSize(kFirstSize);
-  view_->setSize(kFirstSize);
+  view_.Resize(kFirstSize);
   // Nobody looks at the window, and yet keys go to its page.
   QFocusEvent focus(QEvent::FocusIn);
-  QCoreApplication::sendEvent(window_.get(), &focus);
+  QCoreApplication::sendEvent(&view_.Window(), &focus);
 }
-
-WebPage::~WebPage() { delete view_; }
 
 void WebPage::Place(std::shared_ptr<SharedFrames> frames) {
   frames_ = std::move(frames);
-  picture_ = {};
   if (!frames_) return;
-  const QSize size = frames_->Size();
-  window_->setGeometry(0, 0, size.width(), size.height());
-  window_->contentItem()->setSize(size);
-  view_->setSize(size);
-  Ask();
+  fresh_ = true;
+  view_.Resize(frames_->Size());
+  view_.Ask();
 }
 
 void WebPage::Open(const QUrl& address) {
@@ -106,7 +84,7 @@ void WebPage::Open(const QUrl& address) {
 
 void WebPage::Go() {
   arrived_ = false;
-  view_->setProperty("url", address_.isEmpty() ? QUrl("about:blank") : address_);
+  view_.Item().setProperty("url", address_.isEmpty() ? QUrl("about:blank") : address_);
 }
 
 // What the browser would reload is the page before, as long as nothing has come of this one. One whose renderer has
@@ -115,7 +93,7 @@ void WebPage::Reload() {
   if (comeBack_.isActive()) return;
   tryAgain_.stop();
   if (arrived_) {
-    QMetaObject::invokeMethod(view_, "reload");
+    QMetaObject::invokeMethod(&view_.Item(), "reload");
   } else {
     Go();
   }
@@ -124,12 +102,12 @@ void WebPage::Reload() {
 void WebPage::SetLooks(int zoom, bool sound, bool scrollBars) {
   zoom_ = zoom;
   ApplyZoom();
-  view_->setProperty("audioMuted", !sound);
-  view_->property("settings").value<QObject*>()->setProperty("showScrollBars", scrollBars);
+  view_.Item().setProperty("audioMuted", !sound);
+  view_.Item().property("settings").value<QObject*>()->setProperty("showScrollBars", scrollBars);
 }
 
 // A renderer that is new does not know it.
-void WebPage::ApplyZoom() { view_->setProperty("zoomFactor", zoom_ / 100.0); }
+void WebPage::ApplyZoom() { view_.Item().setProperty("zoomFactor", zoom_ / 100.0); }
 
 void WebPage::Progress(int percent) {
   if (percent >= kSomethingIsThere && !address_.isEmpty() && !comeBack_.isActive()) Begin();
@@ -139,7 +117,7 @@ void WebPage::Begin() {
   if (std::exchange(isNew_, false)) sinceBegun_.start();
   arrived_ = true;
   begun_ = true;
-  Ask();
+  view_.Ask();
 }
 
 void WebPage::Tell(const QString& status) {
@@ -149,7 +127,7 @@ void WebPage::Tell(const QString& status) {
 }
 
 void WebPage::Hovered(const QString& address) {
-  const bool loads = view_->property("loading").toBool();
+  const bool loads = view_.Item().property("loading").toBool();
   if (!address_.isEmpty()) Tell(!address.isEmpty() ? address : loads ? "Loading.." : "Done");
 }
 
@@ -161,7 +139,7 @@ void WebPage::Started() {
 // By now another page may be loading.
 void WebPage::Stopped() {
   QTimer::singleShot(kUntilAnotherBegins, this, [this] {
-    if (!address_.isEmpty() && !view_->property("loading").toBool()) Tell("Done");
+    if (!address_.isEmpty() && !view_.Item().property("loading").toBool()) Tell("Done");
   });
 }
 
@@ -169,7 +147,7 @@ void WebPage::Stopped() {
 void WebPage::Ended(bool succeeded) {
   if (address_.isEmpty() || comeBack_.isActive()) return;
   ApplyZoom();
-  picture_ = {};
+  fresh_ = true;
   Begin();
   if (succeeded) {
     pauseOfTry_ = kFirstTry;
@@ -197,44 +175,30 @@ void WebPage::Died() {
 
 // A page may keep its renderer busy for ever, and each page of its server with it.
 void WebPage::SeeWhetherItAnswers() {
-  const auto renderer = view_->property("renderProcessPid").toLongLong();
+  const auto renderer = view_.Item().property("renderProcessPid").toLongLong();
   if (address_.isEmpty() || comeBack_.isActive() || renderer <= 0) {
     unanswered_ = 0;
   } else if (unanswered_ < kTooManyQuestions) {
     ++unanswered_;
-    QMetaObject::invokeMethod(view_, "ask");
+    QMetaObject::invokeMethod(&view_.Item(), "ask");
   } else if (Lives(renderer)) {
     unanswered_ = 0;
     kill(static_cast<pid_t>(renderer), SIGKILL);
   }
 }
 
-void WebPage::Ask() {
-  if (!due_.isActive()) due_.start(std::max<int>(0, kBetweenPaintings - static_cast<int>(sincePainted_.elapsed())));
-}
-
 void WebPage::Paint() {
-  sincePainted_.restart();
-  if (!frames_ || !begun_ || comeBack_.isActive()) return;
-  if (!Lives(view_->property("renderProcessPid").toLongLong())) return;
-  const QImage picture = window_->grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  if (picture.size() != frames_->Size()) return Ask();
+  if (!frames_ || !begun_ || comeBack_.isActive() || !view_.Paint()) return;
+  const QImage& picture = view_.Picture();
   // Nothing comes before the ground, and the ground before the page; a page that is blank is believed after a while.
   const bool mayBeEarly = !sinceBegun_.hasExpired(kLongestBlank);
-  if (mayBeEarly && (IsAll(kNothing, picture) || IsAll(kWhite, picture))) return Ask();
-  if (IsAll(kNothing, picture)) return;  // the first painting asks again
-  if (!Changed(picture)) return;
-  const auto stride = static_cast<std::size_t>(frames_->Stride());
-  uchar* to = frames_->Paint();
-  for (int row = 0; row < picture.height(); ++row) std::memcpy(to + row * stride, picture.constScanLine(row), stride);
-  frames_->Publish();
-  picture_ = picture;
+  const bool isNothing = IsAll(kNothing, picture);
+  if (mayBeEarly && (isNothing || IsAll(kWhite, picture))) return view_.Ask();
+  if (isNothing) return;  // the first painting asks again
+  if (!fresh_ && !frames_->Differs(picture)) return;
+  fresh_ = false;
+  frames_->Publish(picture);
   listener_.painted();
-}
-
-bool WebPage::Changed(const QImage& picture) const {
-  return picture_.size() != picture.size() ||
-         std::memcmp(picture_.constBits(), picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes())) != 0;
 }
 
 void WebPage::Take(const QCborArray& input) {
@@ -243,7 +207,7 @@ void WebPage::Take(const QCborArray& input) {
   if (about == wire::kKey) {
     QKeyEvent key(static_cast<QEvent::Type>(number(2)), number(3), Qt::KeyboardModifiers(number(4)),
                   input[5].toString());
-    QCoreApplication::sendEvent(window_.get(), &key);
+    QCoreApplication::sendEvent(&view_.Window(), &key);
     return;
   }
   const bool isWheel = about == wire::kWheel;
@@ -251,11 +215,11 @@ void WebPage::Take(const QCborArray& input) {
   if (isWheel) {
     QWheelEvent wheel(place, place, {}, {number(4), number(5)}, Qt::MouseButtons(number(6)),
                       Qt::KeyboardModifiers(number(7)), Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(window_.get(), &wheel);
+    QCoreApplication::sendEvent(&view_.Window(), &wheel);
   } else {
     QMouseEvent mouse(static_cast<QEvent::Type>(number(2)), place, place, static_cast<Qt::MouseButton>(number(5)),
                       Qt::MouseButtons(number(6)), Qt::KeyboardModifiers(number(7)));
-    QCoreApplication::sendEvent(window_.get(), &mouse);
-    if (mouse.type() == QEvent::MouseButtonPress) view_->forceActiveFocus();
+    QCoreApplication::sendEvent(&view_.Window(), &mouse);
+    if (mouse.type() == QEvent::MouseButtonPress) view_.Item().forceActiveFocus();
   }
 }

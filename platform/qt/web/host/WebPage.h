@@ -1,27 +1,23 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QObject>
-#include <QQuickRenderControl>
-#include <QQuickWindow>
 #include <QTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
 
 #include "platform/qt/programs/SharedFrames.h"
+#include "platform/qt/programs/host/UnseenView.h"
 #include "platform/qt/web/host/Gate.h"
 
 class QCborArray;
 class QQmlEngine;
-class QQuickItem;
 class QQuickWebEngineProfile;
 
-// One web page, in a window that is never shown. It is painted into a picture whenever it changes, 60 times a second at
-// most. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile. A renderer that does
-// not answer for twenty seconds is taken for dead. A page that cannot be had is tried again at growing pauses too:
-// after a power cut the network may come up later than the station.
+// One web page. When its renderer dies it comes back, at growing pauses; its last picture stays meanwhile. A renderer
+// that does not answer for twenty seconds is taken for dead. A page that cannot be had is tried again at growing pauses
+// too: after a power cut the network may come up later than the station.
 class WebPage : public QObject {
  public:
   struct Listener {
@@ -32,7 +28,6 @@ class WebPage : public QObject {
 
   // All three must outlive it.
   WebPage(QQmlEngine& engine, QQuickWebEngineProfile& profile, Guard& guard, Listener listener);
-  ~WebPage() override;
 
   // Its size, and where its pictures go; without frames it is not painted, and keeps its size.
   void Place(std::shared_ptr<SharedFrames> frames);
@@ -56,15 +51,10 @@ class WebPage : public QObject {
   void Died();
   void ComeBack();
   void SeeWhetherItAnswers();
-  void Ask();
   void Paint();
-  bool Changed(const QImage& picture) const;
 
   Listener listener_;
   Gate gate_;
-  QQuickRenderControl control_;
-  std::unique_ptr<QQuickWindow> window_;
-  QQuickItem* view_ = nullptr;
   std::shared_ptr<SharedFrames> frames_;
   QUrl address_;
   int zoom_ = 100;
@@ -73,13 +63,12 @@ class WebPage : public QObject {
   bool begun_ = false;    // something of the page can be seen
   bool isNew_ = true;     // nothing of this load can be seen yet
   QElapsedTimer sinceBegun_;
-  QImage picture_;  // the last one
-  QTimer due_;
-  QElapsedTimer sincePainted_;
+  bool fresh_ = true;  // the next picture is told even when it is the same as the last one
   QTimer comeBack_;
   QElapsedTimer sinceBack_;
   QTimer tryAgain_;
   std::chrono::milliseconds pauseOfTry_{};
   QTimer watch_;
   int unanswered_ = 0;  // questions
+  UnseenView view_;     // behind all that it may still call when it ends
 };
