@@ -1,15 +1,13 @@
 #!/usr/bin/python3
 """Movies on the air that are damaged, endless or too large, and what plays them killed."""
 
-import os
-import signal
 import struct
 import sys
 import zlib
 
 from harness import letters, media
 from harness.patience import until
-from harness.processes import command_of, is_there, tree_of
+from harness.processes import is_there, kill_part, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import Station
@@ -106,16 +104,9 @@ def green_then_blue():
 def a_surface_comes_back_by_itself_when_what_plays_it_is_killed(desk):
     station = station_with_strip(desk, green_then_blue())
     station.start_on_air()
-    called = {
-        "renderer": lambda command: "--type=renderer " in command,
-        "program": lambda command: command.split(" ")[0] == str(station.folder / "corvanta-movies"),
-    }
-    for what, is_it in called.items():
+    for part in ("renderer", "program"):
         until("the movie's end", lambda: middle(station) == BLUE, BROWSER)
-        victims = [pid for pid in tree_of(station.pid) if is_it(command_of(pid))]
-        assert victims, f"no {what}"
-        for pid in victims:
-            os.kill(pid, signal.SIGKILL)
+        kill_part(station, part, "corvanta-movies")
         until("the movie's beginning", lambda: middle(station) == GREEN, BROWSER)
         assert_programme_runs(station, "that was killed")
 

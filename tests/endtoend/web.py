@@ -1,14 +1,12 @@
 #!/usr/bin/python3
 """The web feed: a page of the network through its peephole, its desk, and the station's end with a page on."""
 
-import os
-import signal
 import time
 
 from harness import ini, media
 from harness.pages import BAD, ENDLESS, FIELD, NEVER, Pages, colour_at
 from harness.patience import throughout, until
-from harness.processes import command_of, is_there, tree_of
+from harness.processes import command_of, is_there, kill_part, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, require_network, scenario
 from harness.station import TWIPS, Station
@@ -162,18 +160,11 @@ def what_is_typed_into_a_page_reaches_its_server(desk):
 def a_page_comes_back_when_what_shows_it_is_killed(desk):
     with Pages() as pages:
         station = station_with_page(desk, pages.address).start_on_air()
-        called = {
-            "renderer": lambda command: "--type=renderer " in command,
-            "program": lambda command: command.split(" ")[0] == str(station.folder / "corvanta-pages"),
-        }
-        for what, is_it in called.items():
+        for part in ("renderer", "program"):
             await_page(station)
             asked = len(pages.asked)
-            victims = [pid for pid in tree_of(station.pid) if is_it(command_of(pid))]
-            assert victims, f"no {what}"
-            for pid in victims:
-                os.kill(pid, signal.SIGKILL)
-            until(f"the page to be asked for again after the end of its {what}", lambda: len(pages.asked) > asked, BROWSER)
+            kill_part(station, part, "corvanta-pages")
+            until(f"the page to be asked for again after the end of its {part}", lambda: len(pages.asked) > asked, BROWSER)
             await_page(station)
             assert_programme_runs(station)
 

@@ -1,6 +1,8 @@
 """The processes of a station."""
 
+import os
 import pathlib
+import signal
 
 
 def tree_of(pid):
@@ -33,3 +35,15 @@ def is_there(pid):
         return pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()[0] != "Z"
     except OSError:
         return False
+
+
+def kill_part(station, part, program):
+    """Kills the renderers of what plays the station's movies or shows its pages, or that program itself."""
+    called = {
+        "renderer": lambda command: "--type=renderer " in command,
+        "program": lambda command: command.split(" ")[0] == str(station.folder / program),
+    }
+    victims = [pid for pid in tree_of(station.pid) if called[part](command_of(pid))]
+    assert victims, f"no {part}"
+    for pid in victims:
+        os.kill(pid, signal.SIGKILL)

@@ -39,6 +39,10 @@ std::vector<pid_t> ProcessesWith(const std::string& word) {
   return found;
 }
 
+void KillAll(const std::string& word) {
+  for (const pid_t process : ProcessesWith(word)) kill(process, SIGKILL);
+}
+
 // A renderer is made by one of the browser's own processes.
 void KillTheRenderer() {
   int killed = 0;

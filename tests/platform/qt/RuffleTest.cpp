@@ -1,11 +1,11 @@
-#include <csignal>
+#include <algorithm>
 #include <vector>
 
 #include "platform/qt/flash/QtFlash.h"
-#include "platform/qt/frames/FrameSource.h"
 #include "platform/swf/Actions.h"
 #include "platform/swf/Bytes.h"
 #include "tests/platform/qt/Processes.h"
+#include "tests/platform/qt/SeenPictures.h"
 #include "tests/platform/qt/Worlds.h"
 
 // What the real player does with real movies.
@@ -42,25 +42,13 @@ std::string Blinking() {
 
 constexpr char kSound[] = "audio.mojom.AudioService";
 
-class Seen : public FlashListener {
+class Seen : public FlashListener, public SeenPictures {
  public:
   Seen(FlashEngine& flash, QSize size)
       : surface(flash.NewSurface("seen", *this)), source(dynamic_cast<ShowsFrames&>(*surface).Frames()) {
-    source.SetTarget(size);
-    QObject::connect(&source, &FrameSource::Changed, &source, [this] {
-      if (const auto taken = source.Take()) {
-        picture = taken->copy();
-        ++pictures;
-        if (everBlank && !picture.isNull() && qAlpha(picture.pixel(picture.width() / 2, picture.height() / 2)) < 250)
-          ++blanks;
-      }
-    });
+    Watch(source, size);
   }
   void FrameShown(int frame) override { frames.push_back(frame); }
-  bool Shows(QColor colour) {
-    return ::Until(
-        [&] { return !picture.isNull() && picture.pixelColor(picture.width() / 2, picture.height() / 2) == colour; });
-  }
   // Pixels that differ from the middle of the left edge.
   int Marks() const {
     int marks = 0;
@@ -70,13 +58,13 @@ class Seen : public FlashListener {
     }
     return marks;
   }
+  std::size_t Pictures() const { return middles.size(); }
+  bool WasEverBlank() const {
+    return std::ranges::any_of(middles, [](const QColor& colour) { return colour.alpha() < 250; });
+  }
 
   std::unique_ptr<FlashSurface> surface;
   FrameSource& source;
-  QImage picture;
-  int pictures = 0;
-  bool everBlank = false;
-  int blanks = 0;
   std::vector<int> frames;
 };
 
@@ -127,7 +115,7 @@ TEST_F(RuffleTest, AMovieIsSeenInItsOwnBackgroundOrWithNothingBehind) {
   EXPECT_TRUE(opaque->Shows(QColor(255, 0, 0)));
   Seen seeThrough(world.world.flash, {60, 60});
   seeThrough.surface->Put(File("red.swf", Background(255, 0, 0) + Shows(2)));
-  ASSERT_TRUE(Until([&] { return !seeThrough.frames.empty() && seeThrough.pictures > 0; }));
+  ASSERT_TRUE(Until([&] { return !seeThrough.frames.empty() && seeThrough.Pictures() > 0; }));
   EXPECT_EQ(seeThrough.picture.pixelColor(30, 30).alpha(), 0);
 }
 
@@ -137,12 +125,12 @@ TEST_F(RuffleTest, OneMovieFollowsTheOtherWithoutABlankMoment) {
   const std::string blue = File("b.swf", Background(0, 0, 255) + Shows(9));
   seen->surface->Put(red);
   ASSERT_TRUE(seen->Shows(QColor(255, 0, 0)));
-  seen->everBlank = true;
+  seen->middles.clear();
   for (int i = 0; i < 6; ++i) {
     seen->surface->Put(i % 2 == 0 ? blue : red);
     ASSERT_TRUE(seen->Shows(i % 2 == 0 ? QColor(0, 0, 255) : QColor(255, 0, 0)));
   }
-  EXPECT_EQ(seen->blanks, 0);
+  EXPECT_FALSE(seen->WasEverBlank());
 }
 
 TEST_F(RuffleTest, TheOldMovieStaysUntilTheNewOneIsThere) {
@@ -160,14 +148,14 @@ TEST_F(RuffleTest, TheOldMovieStaysUntilTheNewOneIsThere) {
 TEST_F(RuffleTest, TheOldMovieStandsStillWhileTheNextOneComesAndGoesOnWhereNoneDoes) {
   const auto seen = Opaque();
   seen->surface->Put(File("changes.swf", Blinking(), {.frameCount = 2}));
-  ASSERT_TRUE(Until([&] { return seen->pictures > 5; }));
+  ASSERT_TRUE(Until([&] { return seen->Pictures() > 5; }));
   const std::string_view nobody("missing.swf\0\1\0\1\0\1\0x\0", 20);
   seen->surface->Put(File("waits.swf", Background(0, 0, 255) + swf::WriteTag(71, std::string(nobody)) + Shows(20)));
   Pass(500ms);
-  const int pictures = seen->pictures;
+  const std::size_t pictures = seen->Pictures();
   Pass(500ms);
-  EXPECT_EQ(seen->pictures, pictures);
-  EXPECT_TRUE(Until([&] { return seen->pictures > pictures + 5; }))
+  EXPECT_EQ(seen->Pictures(), pictures);
+  EXPECT_TRUE(Until([&] { return seen->Pictures() > pictures + 5; }))
       << "nothing came, and what was there stands for good";
 }
 
@@ -263,7 +251,7 @@ TEST_F(RuffleTest, TheProgramThatPlaysMoviesComesBackWhenItIsKilled) {
   const auto seen = Opaque();
   seen->surface->Put(File("whole.swf", Background(0, 255, 0) + Shows(200), {.frameCount = 200}));
   ASSERT_TRUE(seen->Shows(QColor(0, 255, 0)));
-  for (const pid_t program : ProcessesWith("corvanta-movies")) kill(program, SIGKILL);
+  KillAll("corvanta-movies");
   seen->frames.clear();
   ASSERT_TRUE(Until([&] { return std::ranges::find(seen->frames, 1) != seen->frames.end(); }));
 }
@@ -283,12 +271,12 @@ TEST_F(RuffleTest, AMovieThatBringsTheRendererDownTwiceStaysOutAndTheOthersPlay)
     ASSERT_TRUE(Until([&] { return good.frames.size() > 3; }));
   }
   Pass(3s);
-  const int pictures = bad.pictures;
+  const std::size_t pictures = bad.Pictures();
   bad.frames.clear();
   EXPECT_TRUE(Until([&] { return bad.frames.size() > 25; })) << "the clock counts it";
-  EXPECT_EQ(bad.pictures, pictures);
+  EXPECT_EQ(bad.Pictures(), pictures);
   bad.surface->Put(test_media::PathOf("bad.swf"));
-  EXPECT_TRUE(Until([&] { return bad.pictures > pictures + 3; })) << "until it is put again";
+  EXPECT_TRUE(Until([&] { return bad.Pictures() > pictures + 3; })) << "until it is put again";
 }
 
 // A clip that holds itself takes the player's whole stack, in every tick anew.
@@ -314,13 +302,13 @@ TEST_F(RuffleTest, HundredsOfChangesArePlayedAndTheLastPictureNeverGoes) {
   const std::string red = File("a.swf", Background(255, 0, 0) + Shows(3));
   seen->surface->Put(red);
   ASSERT_TRUE(seen->Shows(QColor(255, 0, 0)));
-  seen->everBlank = true;
+  seen->middles.clear();
   for (int i = 0; i < 320; ++i) {
     seen->surface->Put(red);
     seen->frames.clear();
     ASSERT_TRUE(Until([&] { return !seen->frames.empty(); })) << i;
   }
-  EXPECT_EQ(seen->blanks, 0);
+  EXPECT_FALSE(seen->WasEverBlank());
 }
 
 // Each plays in the page that grows least with it, and goes over to the other one with its new size.
@@ -350,7 +338,7 @@ TEST_F(RuffleTest, WhatNobodySeesGoesOnCounting) {
   unseen.surface->Put(File("unseen.swf", Shows(10), {.frameCount = 10}));
   ASSERT_TRUE(Until([&] { return unseen.frames.size() >= 25; }));
   for (std::size_t i = 0; i < unseen.frames.size(); ++i) EXPECT_EQ(unseen.frames[i], static_cast<int>(i % 10) + 1);
-  EXPECT_EQ(unseen.pictures, 0);
+  EXPECT_EQ(unseen.Pictures(), 0U);
 }
 
 // The column on the air and the preview of its desk, which is opened in the middle of a movie.
@@ -363,9 +351,9 @@ TEST_F(RuffleTest, WhatBecomesSeenBesideAMovieThatFillsKeepsItsProportions) {
   const std::string path = File("wide.swf", Blinking(), {.frameCount = 2});
   preview.surface->Put(path);
   column.surface->Put(path);
-  ASSERT_TRUE(Until([&] { return column.pictures > 2; }));
+  ASSERT_TRUE(Until([&] { return column.Pictures() > 2; }));
   preview.source.SetTarget({100, 100});
-  ASSERT_TRUE(Until([&] { return preview.pictures > 2; }));
+  ASSERT_TRUE(Until([&] { return preview.Pictures() > 2; }));
   EXPECT_EQ(preview.picture.pixelColor(2, 50), QColor(255, 0, 0));
   EXPECT_EQ(preview.picture.pixelColor(50, 2).alpha(), 0);
 }

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/WebAddress.h"
-#include "platform/qt/frames/FrameSource.h"
 #include "tests/platform/qt/Processes.h"
+#include "tests/platform/qt/SeenPictures.h"
 #include "tests/platform/qt/WebServer.h"
 #include "tests/platform/qt/Worlds.h"
 
@@ -25,39 +25,26 @@ inline std::string PageWith(const std::string& script) {
 }
 inline const std::string kGood = PageWith("good()");
 
-class SeenPage : public BrowserListener {
+class SeenPage : public BrowserListener, public SeenPictures {
  public:
   explicit SeenPage(BrowserEngine& browser) { Renew(browser); }
   // Another surface, of which nothing was seen yet.
   void Renew(BrowserEngine& browser) {
-    picture = {};
     surface = browser.NewSurface("seen", *this);
-    FrameSource* source = &dynamic_cast<ShowsFrames&>(*surface).Frames();
-    source->SetTarget(kPageSize);
-    QObject::connect(source, &FrameSource::Changed, source, [this, source] {
-      const auto taken = source->Take();
-      if (!taken) return;
-      picture = taken->copy();
-      colours.push_back(picture.pixelColor(picture.rect().center()));
-    });
+    Watch(dynamic_cast<ShowsFrames&>(*surface).Frames(), kPageSize);
   }
   void StatusChanged(const std::string& text) override { status = text; }
   void PageLoaded() override { ++loads; }
 
-  bool Shows(QColor colour) {
-    return ::Until([&] { return !picture.isNull() && picture.pixelColor(picture.rect().center()) == colour; });
-  }
   // The colours in the middle of all pictures from the present one on until that holds.
   std::vector<QColor> ShownUntil(const std::function<bool()>& holds) {
-    colours = {picture.pixelColor(picture.rect().center())};
+    middles = {Middle()};
     EXPECT_TRUE(::Until(holds));
-    return colours;
+    return middles;
   }
   bool IsGood() { return Shows(QColor(0, 255, 0)); }
 
   std::unique_ptr<BrowserSurface> surface;
-  QImage picture;
-  std::vector<QColor> colours;  // of all pictures, in the middle
   std::string status;
   int loads = 0;
 };

@@ -1,6 +1,5 @@
 #include <QStandardPaths>
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 
 #include "tests/platform/qt/Processes.h"
@@ -170,7 +169,7 @@ TEST_F(WebSafetyTest, ARefreshDoesNotHurryAPageWhoseRendererDies) {
 TEST_F(WebSafetyTest, TheProgramThatShowsPagesComesBackWhenItIsKilled) {
   ASSERT_TRUE(IsGoodOnNet("good()"));
   ASSERT_TRUE(::Until([&] { return seen.loads == 1; }));
-  for (const pid_t program : ProcessesWith(kPageProgram)) kill(program, SIGKILL);
+  KillAll(kPageProgram);
   EXPECT_TRUE(::Until([&] { return seen.loads == 2; }));
 }
 
@@ -185,7 +184,7 @@ TEST_F(WebSafetyTest, AProfileThatIsNoFolderIsThrownAway) {
 TEST_F(WebSafetyTest, AProfileWithWhichTheBrowserDiesAtOnceIsThrownAway) {
   ASSERT_TRUE(IsGoodOnDisk("good()"));
   const std::string mark = test_media::Text("profile/mark", "of the old profile");
-  for (const pid_t program : ProcessesWith(kPageProgram)) kill(program, SIGKILL);
+  KillAll(kPageProgram);
   EXPECT_TRUE(::Until([&] { return !std::filesystem::exists(mark); }));
 }
 
