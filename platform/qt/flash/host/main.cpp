@@ -17,19 +17,10 @@ constexpr char kBrowser[] =
     "--js-flags=\"--wasm-lazy-compilation --wasm-lazy-validation --no-wasm-write-protect-code-memory "
     "--wasm-tiering-budget=30000000\"";
 
-// The renderer's threads would each keep a heap of their own, in which what one movie after the other leaves free is
-// never given back: read by the C library when it begins, and so for the processes that come after this one.
-void KeepHeapsSmall() {
-  qputenv("MALLOC_ARENA_MAX", "1");
-  qputenv("MALLOC_MMAP_THRESHOLD_", "131072");
-  qputenv("MALLOC_TRIM_THRESHOLD_", "131072");
-}
-
 }  // namespace
 
 // Plays the movies of the station that started it, and ends with it.
 int main(int argc, char** argv) {
-  KeepHeapsSmall();
   SettleUnseen();
   qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", kBrowser);
