@@ -28,6 +28,11 @@ class frmPages : public Form {
 class BrowserControlTest : public testing::Test {
  protected:
   SimPage& Page() { return *sim.browser.Find("frmPages.Web"); }
+  // Opens what was typed, and gives it the time to come.
+  void Open(const std::string& typed) {
+    form.Web.Navigate(typed);
+    sim.time.Advance(1s);
+  }
 
   SimWorld sim;
   Station station{sim.world, "/station"};
@@ -47,8 +52,7 @@ TEST_F(BrowserControlTest, APageTellsThatItLoadsAndThatItIsThere) {
 }
 
 TEST_F(BrowserControlTest, TheStatusIsTheAddressUnderThePointer) {
-  form.Web.Navigate("news.example");
-  sim.time.Advance(1s);
+  Open("news.example");
   Page().Hover("http://news.example/today");
   EXPECT_EQ(form.told.back(), "http://news.example/today");
   Page().Hover("");
@@ -62,19 +66,16 @@ TEST_F(BrowserControlTest, APathIsFoundInAnySpellingThatTheDiskTakes) {
 }
 
 TEST_F(BrowserControlTest, WhatIsNoAddressShowsNothing) {
-  form.Web.Navigate("news.example");
-  sim.time.Advance(1s);
+  Open("news.example");
   for (const char* typed : {"", "javascript:alert(1)"}) {
-    form.Web.Navigate(typed);
-    sim.time.Advance(1s);
+    Open(typed);
     EXPECT_EQ(Page().Shown(), "");
   }
   EXPECT_EQ(form.loads, 1);
 }
 
 TEST_F(BrowserControlTest, ARefreshLoadsThePageOnceMore) {
-  form.Web.Navigate("news.example");
-  sim.time.Advance(1s);
+  Open("news.example");
   form.Web.Refresh();
   sim.time.Advance(1s);
   EXPECT_EQ(form.loads, 2);
@@ -89,15 +90,13 @@ TEST_F(BrowserControlTest, APageThatNeverAnswersGoesOnLoading) {
 
 TEST_F(BrowserControlTest, APageThatCannotBeHadIsNoDocument) {
   sim.browser.SetCannotBeHad("http://gone.example");
-  form.Web.Navigate("gone.example");
-  sim.time.Advance(1s);
+  Open("gone.example");
   EXPECT_EQ(form.told.back(), "Done");
   EXPECT_EQ(form.loads, 0);
 }
 
 TEST_F(BrowserControlTest, APageComesBackWhenWhatRendersItDies) {
-  form.Web.Navigate("news.example");
-  sim.time.Advance(1s);
+  Open("news.example");
   sim.browser.Die();
   sim.time.Advance(3s);
   EXPECT_EQ(form.loads, 2);
