@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """The web feed: a page of the network through its peephole, its desk, and the station's end with a page on."""
 
+import contextlib
 import time
 
 from harness import ini, media
@@ -56,6 +57,15 @@ def await_page(station, place=PLACE, offset=OFFSET):
     until(f"the page at {offset} in a window at {place}", lambda: shows_page(station, place, offset), BROWSER)
 
 
+@contextlib.contextmanager
+def page_on_the_air(desk):
+    """The server of the pages, and a station that is on the air with one of them."""
+    with Pages() as pages:
+        station = station_with_page(desk, pages.address).start_on_air()
+        await_page(station)
+        yield pages, station
+
+
 def open_desk(station):
     return station.open_form("frmPageSettings", "Web feed", "Settings")
 
@@ -77,9 +87,7 @@ def assert_programme_runs(station):
 @scenario
 def a_page_is_seen_through_its_peephole_dragged_and_sized_by_its_edges_and_is_there_again(desk):
     require_network()
-    with Pages() as pages:
-        station = station_with_page(desk, pages.address).start_on_air()
-        await_page(station)
+    with page_on_the_air(desk) as (_, station):
         hand_the_mouse_to_the_window(station)
         left, top, width, height = PLACE
         desk.screen.drag((left + width // 2, top + height // 2), (left + width // 2 + 45, top + height // 2 + 75))
@@ -115,9 +123,7 @@ def a_page_is_seen_through_its_peephole_dragged_and_sized_by_its_edges_and_is_th
 @scenario
 def a_corner_pulls_both_its_edges_and_the_right_button_nothing(desk):
     require_network()
-    with Pages() as pages:
-        station = station_with_page(desk, pages.address).start_on_air()
-        await_page(station)
+    with page_on_the_air(desk) as (_, station):
         hand_the_mouse_to_the_window(station)
         left, top, width, height = PLACE
         corner = (left + width - 2, top + height - 2)
@@ -130,9 +136,7 @@ def a_corner_pulls_both_its_edges_and_the_right_button_nothing(desk):
 @scenario
 def the_desk_moves_the_page_in_its_window_and_stores_it(desk):
     require_network()
-    with Pages() as pages:
-        station = station_with_page(desk, pages.address).start_on_air()
-        await_page(station)
+    with page_on_the_air(desk) as (_, station):
         reader = open_desk(station)
         reader.press("Up")  # two steps of 100 twips
         until("the page moved up", lambda: shows_page(station, offset=(OFFSET[0], OFFSET[1] - 200 // TWIPS)))
@@ -145,9 +149,7 @@ def the_desk_moves_the_page_in_its_window_and_stores_it(desk):
 
 @scenario
 def what_is_typed_into_a_page_reaches_its_server(desk):
-    with Pages() as pages:
-        station = station_with_page(desk, pages.address).start_on_air()
-        await_page(station)
+    with page_on_the_air(desk) as (pages, station):
         desk.screen.click(PLACE[0] + FIELD[0] + OFFSET[0], PLACE[1] + FIELD[1] + OFFSET[1])
         time.sleep(1)
         desk.screen.type("news")
