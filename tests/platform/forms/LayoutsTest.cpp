@@ -19,7 +19,27 @@
 
 namespace {
 
-using LayoutsTest = FormTest;
+using Words = std::vector<std::string>;
+
+class LayoutsTest : public FormTest {
+ protected:
+  // What a form's window says: its title, and the words of its frames, labels and buttons, a frame's before what stands
+  // in it.
+  template <class F>
+  Words WordsOf() {
+    const QWidget& window = WindowOf(Get<F>()).Widget();
+    Words words{Stored(window.windowTitle())};
+    const auto add = [&words](const QString& text) {
+      if (!text.isEmpty()) words.push_back(Stored(text));
+    };
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+      if (const auto* frame = qobject_cast<const QGroupBox*>(widget)) add(frame->title());
+      if (const auto* label = qobject_cast<const QLabel*>(widget)) add(label->text());
+      if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) add(button->text());
+    }
+    return words;
+  }
+};
 
 TEST_F(LayoutsTest, EveryLayoutAmongTheResourcesIsTested) {
   QStringList tested;
@@ -68,45 +88,28 @@ TEST_F(LayoutsTest, TheDeskOfTheCrawlerAdsHasItsTextsLetterForLetter) {
   EXPECT_EQ(Shown<QCheckBox>(form.chkView).text(), "Auto preview");
 }
 
-// What a window says: its title, and the words of its frames, labels and buttons, a frame's before what stands in it.
-std::vector<std::string> WordsOf(const QWidget& window) {
-  std::vector<std::string> words{Stored(window.windowTitle())};
-  const auto add = [&words](const QString& text) {
-    if (!text.isEmpty()) words.push_back(Stored(text));
-  };
-  for (const QWidget* widget : window.findChildren<QWidget*>()) {
-    if (const auto* frame = qobject_cast<const QGroupBox*>(widget)) add(frame->title());
-    if (const auto* label = qobject_cast<const QLabel*>(widget)) add(label->text());
-    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) add(button->text());
-  }
+// The three libraries say the same but for these words.
+Words LibraryWords(const std::string& title, const std::string& group, const Words& sets, const std::string& thing) {
+  Words words{title,          group,     "Cetagory",     "Add new cetagory", "Delete cetagory",
+              "Clock Themes", "&Browse", "Delete theame"};
+  words.insert(words.end(), sets.begin(), sets.end());
+  words.insert(words.end(), {"Preview", "Property", thing + " width", thing + " height", "Transparent", "Show logo"});
   return words;
 }
 
 // The misspellings are the station's own, and so are the words of the clock on the logo's form and of the logo on the
 // others.
 TEST_F(LayoutsTest, TheLibrariesAndTheRotationsHaveTheirTextsLetterForLetterWhatIsMisspeltToo) {
-  using Words = std::vector<std::string>;
-  const auto words = [this]<class F>(std::type_identity<F>) { return WordsOf(WindowOf(Get<F>()).Widget()); };
-  EXPECT_EQ(words(std::type_identity<frmLogoSett>()),
-            (Words{"Logo settings", "Logo", "Cetagory", "Add new cetagory", "Delete cetagory", "Clock Themes",
-                   "&Browse", "Delete theame", "Set as logo", "Preview", "Property", "Logo width", "Logo height",
-                   "Transparent", "Show logo"}));
-  EXPECT_EQ(words(std::type_identity<frmClockSett>()),
-            (Words{"Clock settings", "Clock", "Cetagory", "Add new cetagory", "Delete cetagory", "Clock Themes",
-                   "&Browse", "Delete theame", "Create list", "Set as clock", "Preview", "Property", "Clock width",
-                   "Clock height", "Transparent", "Show logo"}));
-  EXPECT_EQ(words(std::type_identity<frmStikerSett>()),
-            (Words{"Stiker setttings", "Logo", "Cetagory", "Add new cetagory", "Delete cetagory", "Clock Themes",
-                   "&Browse", "Delete theame", "Set as stiker", "Preview", "Property", "Logo width", "Logo height",
-                   "Transparent", "Show logo"}));
-  EXPECT_EQ(words(std::type_identity<frmFlashAdSett>()),
+  EXPECT_EQ(WordsOf<frmLogoSett>(), LibraryWords("Logo settings", "Logo", {"Set as logo"}, "Logo"));
+  EXPECT_EQ(WordsOf<frmClockSett>(), LibraryWords("Clock settings", "Clock", {"Create list", "Set as clock"}, "Clock"));
+  EXPECT_EQ(WordsOf<frmStikerSett>(), LibraryWords("Stiker setttings", "Logo", {"Set as stiker"}, "Logo"));
+  EXPECT_EQ(WordsOf<frmFlashAdSett>(),
             (Words{"Flash Ad settings", "Flash Ad", "Cetagory", "Add new cetagory", "Delete cetagory", "Command1",
                    "Flash Ad", "&Browse", "Delete theame", "Preview", "Properties", "Logo height", "Logo width",
                    "Transparent", "Show logo"}));
-  EXPECT_EQ(
-      words(std::type_identity<frmLeftSideAdSett>()),
-      (Words{"Left side Ad settings", "Flash Ad", "Cetagory", "Add new cetagory", "Delete cetagory", "Left side Ad",
-             "&Browse", "Delete theame", "Preview", "Properties", "Logo width", "Transparent", "Show logo"}));
+  EXPECT_EQ(WordsOf<frmLeftSideAdSett>(), (Words{"Left side Ad settings", "Flash Ad", "Cetagory", "Add new cetagory",
+                                                 "Delete cetagory", "Left side Ad", "&Browse", "Delete theame",
+                                                 "Preview", "Properties", "Logo width", "Transparent", "Show logo"}));
 }
 
 // Where the station's own captions share one, its presses go from one button to the other and Space presses it.
