@@ -4,18 +4,23 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMap>
 
 #include "ads/frmAdSett.h"
 #include "ads/frmFlashAdSett.h"
 #include "ads/frmLeftSideAdSett.h"
+#include "channels/frmOnlineRadio.h"
+#include "channels/frmOnlineTV.h"
 #include "overlay/frmClockSett.h"
 #include "overlay/frmLogoSett.h"
 #include "overlay/frmStikerSett.h"
 #include "platform/qt/forms/FormLoader.h"
 #include "platform/qt/forms/Texts.h"
 #include "playlist/frmPlaylist.h"
+#include "shell/frmSettings.h"
 #include "tests/platform/forms/FormTest.h"
+#include "webfeed/frmPageSettings.h"
 
 namespace {
 
@@ -110,6 +115,70 @@ TEST_F(LayoutsTest, TheLibrariesAndTheRotationsHaveTheirTextsLetterForLetterWhat
   EXPECT_EQ(WordsOf<frmLeftSideAdSett>(), (Words{"Left side Ad settings", "Flash Ad", "Cetagory", "Add new cetagory",
                                                  "Delete cetagory", "Left side Ad", "&Browse", "Delete theame",
                                                  "Preview", "Properties", "Logo width", "Transparent", "Show logo"}));
+}
+
+// "Page namager" is the station's own, and so are the buttons of the text's size without a word.
+TEST_F(LayoutsTest, TheDeskOfTheWebFeedHasItsTextsLetterForLetterWhatIsMisspeltToo) {
+  EXPECT_EQ(WordsOf<frmPageSettings>(), (Words{"Web feed settings",
+                                               "Page namager",
+                                               "Start up page: ",
+                                               "&Add page",
+                                               "Delete",
+                                               "Set as start up",
+                                               "Settings",
+                                               "Stay on top",
+                                               "Enable click",
+                                               "Auto refresh after",
+                                               "&Transparency",
+                                               "Command2",
+                                               "Text size:",
+                                               "Set position",
+                                               "&Up",
+                                               "&Left",
+                                               "&Right",
+                                               "&Down",
+                                               "&Save position",
+                                               "Address bar",
+                                               "&Load",
+                                               "&Preview",
+                                               "Page preview",
+                                               "&Ok",
+                                               "&Exit"}));
+}
+
+// "Ad" and the blanks at the ends are the station's own.
+TEST_F(LayoutsTest, TheDirectoriesOfChannelsHaveTheirTextsLetterForLetterWhatIsMisspeltToo) {
+  const auto words = [](const std::string& thing) {
+    return Words{"Online " + thing + " settings",
+                 "Online " + thing + " channel ",
+                 "Channel's type (0)",
+                 "Add new channel type",
+                 "Delete this channel type",
+                 "Channels (0)",
+                 "Preview",
+                 "Delete this channel ",
+                 "Ad Online " + thing + " channel ",
+                 "Channel type",
+                 "Channel name",
+                 "Streaming URL",
+                 "Preview",
+                 "&Add channel",
+                 "Preview",
+                 "On the air",
+                 "Stream:",
+                 "Start broadcast",
+                 "Stop broadcast"};
+  };
+  EXPECT_EQ(WordsOf<frmOnlineTV>(), words("TV"));
+  EXPECT_EQ(WordsOf<frmOnlineRadio>(), words("radio"));
+}
+
+TEST_F(LayoutsTest, TheSystemSettingsHaveTheirTextsLetterForLetterAndThePasswordStandsInTheClear) {
+  EXPECT_EQ(WordsOf<frmSettings>(),
+            (Words{"System settings", "Station", "Show cursor", "Show taskbar", "Show control window at start",
+                   "Supported file extension ", "Save", "Volume", "Date and time", "Security",
+                   "Ask for password before EXIT", "Password", "Save"}));
+  EXPECT_EQ(Shown<QLineEdit>(Get<frmSettings>().txtPass).echoMode(), QLineEdit::Normal);
 }
 
 // Where the station's own captions share one, its presses go from one button to the other and Space presses it.
