@@ -87,6 +87,54 @@ TEST_F(FrmWebTest, TheTextTellsWhatTheBrowserSays) {
   EXPECT_EQ(feed.lblInfo.Text.Get(), "http://news.example/today");
 }
 
+TEST_F(FrmWebTest, TheTextStaysBehindThePageWhateverTheBrowserSays) {
+  Store("news");
+  SetStartUpPage("news");
+  FrmWeb& feed = Feed();
+  for (const char* said : {"Done", ""}) {
+    feed.Web.StatusTextChange.Raise(said);
+    EXPECT_EQ(feed.lblInfo.Text.Get(), said);
+    EXPECT_EQ(feed.lblNet.Text.Get(), "Loading..");
+    EXPECT_TRUE(feed.picTxt.Visible);
+  }
+  EXPECT_TRUE(feed.picWeb.SeeThrough) << "it is seen until the page is";
+}
+
+TEST_F(FrmWebTest, ThePageSounds) {
+  Feed();
+  EXPECT_TRUE(Page().Looks().sound);
+}
+
+TEST_F(FrmWebTest, AWindowStandsWhereItsPageHasItHoweverOddThatIs) {
+  const PagePlace beyond{0, 0, 50000, 40000, -700, -500}, none{};
+  SetStartUpPage("odd");
+  for (const PagePlace& place : {none, beyond}) {
+    station.forms.Unload<FrmWeb>();
+    SavePagePlace(station.stores, "odd", place);
+    EXPECT_EQ(Feed().Place(), place);
+    EXPECT_EQ(Feed().picTxt.Top, (place.height - Feed().picTxt.Height) / 2);
+  }
+}
+
+TEST_F(FrmWebTest, APageThatIsLoadedOnceMoreIsOpenedOnceMoreWithItsTextAsLargeAsItWas) {
+  Store("news");
+  SetStartUpPage("news");
+  Feed().Web.TextSize = 4;
+  sim.trace.Take();
+  Feed().LoadPage("news");
+  EXPECT_EQ(sim.trace.Take(), Names{"FrmWeb.Web open http://news.example"});
+  EXPECT_EQ(Feed().Web.TextSize, 4);
+}
+
+TEST_F(FrmWebTest, APageWithoutAnAddressTakesTheFormerOneOffTheAir) {
+  Store("news");
+  SetStartUpPage("news");
+  Feed();
+  Advance(1s);
+  Feed().LoadPage("gone");
+  EXPECT_EQ(Page().Shown(), "");
+}
+
 TEST_F(FrmWebTest, HalfASecondBehindItsOpeningTheWindowIsNoMoreOnTop) {
   FrmWeb& feed = Feed();
   EXPECT_TRUE(feed.win.OnTop);
@@ -98,18 +146,28 @@ TEST_F(FrmWebTest, HalfASecondBehindItsOpeningTheWindowIsNoMoreOnTop) {
   EXPECT_EQ(station.stores.DataIni.Path(), "/station/settings.ini");
 }
 
-TEST_F(FrmWebTest, ASwitchThatSomebodyWroteIntoSettingsIniKeepsItOnTop) {
-  Set("Display", "OnTop", "1");
-  FrmWeb& feed = Feed();
-  Advance(1s);
-  EXPECT_TRUE(feed.win.OnTop);
+TEST_F(FrmWebTest, ASwitchThatSomebodyWroteIntoSettingsIniKeepsItOnTopIfItsNumberIsOne) {
+  for (const auto& [text, stays] :
+       {std::pair{"1", true}, {"1 always", true}, {"2", false}, {"-1", false}, {"True", false}, {"", false}}) {
+    Set("Display", "OnTop", text);
+    station.forms.Unload<FrmWeb>();
+    FrmWeb& feed = Feed();
+    Advance(1s);
+    EXPECT_EQ(feed.win.OnTop, stays) << text;
+  }
 }
 
 TEST_F(FrmWebTest, TheSwitchOfTheOptionsHasNoSayInIt) {
+  SetOption("Display", "OnTop", "0");
+  EXPECT_TRUE(Feed().win.OnTop);
   SetOption("Display", "OnTop", "1");
-  FrmWeb& feed = Feed();
   Advance(1s);
-  EXPECT_FALSE(feed.win.OnTop);
+  EXPECT_FALSE(Feed().win.OnTop);
+}
+
+TEST_F(FrmWebTest, TheStoredTransparencyIsNotAppliedAtTheOpening) {
+  SetOption("Display", "Trans", "100");
+  EXPECT_EQ(Feed().ExtendedStyle, 0);
 }
 
 TEST_F(FrmWebTest, NothingStartsTheTimerThatWouldBringTheLeftEdge) {
@@ -122,16 +180,24 @@ TEST_F(FrmWebTest, NothingStartsTheTimerThatWouldBringTheLeftEdge) {
   Advance(500ms);
   EXPECT_EQ(feed.Left, 77);
   EXPECT_FALSE(feed.Timer1.Enabled);
+  Set("WebFeed", "Left", "");
+  feed.Timer1.Enabled = true;
+  Advance(500ms);
+  EXPECT_EQ(feed.Left, 0);
 }
 
 TEST_F(FrmWebTest, TheWindowIsMovedAndSizedByHandAndNothingIsStoredYet) {
   Store("news");
   SetStartUpPage("news");
+  Feed().Show();
+  const auto before = sim.files.Read("/station/Page.ini");
   Pull(6000, 4000, 150, 300);
   EXPECT_EQ(Feed().Place(), (PagePlace{-3000, -600, 9000, 12000, 600, 600}));
   Pull(11990, 4000, 300, 0);
   EXPECT_EQ(Feed().Width, 12300);
-  EXPECT_EQ(PageKey("news", "FrmWidth"), "12000");
+  Advance(10s);
+  EXPECT_EQ(sim.files.Read("/station/Page.ini"), before);
+  for (const char* places : {"/station/win.ini", "/station/Window.ini"}) EXPECT_FALSE(sim.files.Read(places)) << places;
 }
 
 TEST_F(FrmWebTest, TheWindowIsPulledByItsMiddleToo) {

@@ -1,49 +1,18 @@
+#include "tests/webfeed/PageSettingsTest.h"
+
 #include <functional>
 
-#include "tests/webfeed/WebFeedTest.h"
 #include "webfeed/mdlPageTransparent.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
-class PageSettingsTest : public WebFeedTest {
- protected:
-  Names Listed() {
-    Names names;
-    for (int i = 0; i < Desk().listPage.ListCount(); ++i) names.push_back(Desk().listPage.List(i));
-    return names;
-  }
-  void Pick(const std::string& name) {
-    const Names names = Listed();
-    const auto found = std::ranges::find(names, name);
-    ASSERT_NE(found, names.end()) << name;
-    Desk().listPage.Pick(static_cast<int>(found - names.begin()));
-  }
-  // The operator presses the button with the mouse for that long.
-  void Hold(CommandButton& button, std::chrono::milliseconds time) {
-    button.PressMouse(MouseButton::kLeft);
-    Advance(time);
-    button.ReleaseMouse(MouseButton::kLeft);
-    button.Press();
-  }
-  int Reloads() {
-    const Names lines = sim.trace.Take();
-    return static_cast<int>(std::ranges::count(lines, "FrmWeb.Web reload"));
-  }
-  std::string LastBox() {
-    std::string last;
-    for (const std::string& line : sim.trace.Take()) {
-      if (line.starts_with("box ")) last = line;
-    }
-    return last;
-  }
-};
-
 TEST_F(PageSettingsTest, ThePagesStandInTheOrderOfTheFileAndTheStartUpPageIsTold) {
   Store("news");
   Store("board");
   SetStartUpPage("board");
+  EXPECT_EQ(Desk().Caption.Get(), "Web feed settings");
   EXPECT_EQ(Listed(), (Names{"news", "board"}));
   EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: board");
 }
@@ -84,10 +53,12 @@ TEST_F(PageSettingsTest, ThereAreAHundredAndTwentyPeriodsAndTheLastIsTwoHours) {
   EXPECT_EQ(desk.RefreshSeconds, 7200);
 }
 
-TEST_F(PageSettingsTest, AClickShowsTheAddress) {
+TEST_F(PageSettingsTest, AClickShowsTheAddressAndOpensNothing) {
   Store("news");
   Pick("news");
   EXPECT_EQ(Desk().txtURL.Text.Get(), "news.example");
+  EXPECT_EQ(sim.browser.Find("frmPageSettings.WebPre")->Address(), "");
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>());
 }
 
 TEST_F(PageSettingsTest, ADoubleClickAndThePreviewButtonOpenThePageInThePreview) {
@@ -105,6 +76,7 @@ TEST_F(PageSettingsTest, ADoubleClickAndThePreviewButtonOpenThePageInThePreview)
   EXPECT_FALSE(preview.Looks().sound);
   Advance(1s);
   EXPECT_EQ(Desk().lblUrlPre.Caption.Get(), "Done");
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>()) << "on the air they change nothing";
 }
 
 TEST_F(PageSettingsTest, ThePreviewReadsTheFileThatIsMeantJustNow) {
@@ -118,6 +90,8 @@ TEST_F(PageSettingsTest, ThePreviewReadsTheFileThatIsMeantJustNow) {
 TEST_F(PageSettingsTest, ANewPageHasTheScreensSizeAndTheWindowsPlace) {
   Feed().Top = 150;
   Feed().Left = 300;
+  Feed().Web.Top = -700;
+  Feed().Web.Left = -800;
   sim.dialogs.inputs = {"news", "news.example"};
   Desk().btnAdd.Press();
   EXPECT_EQ(Listed(), Names{"news"});
@@ -127,6 +101,7 @@ TEST_F(PageSettingsTest, ANewPageHasTheScreensSizeAndTheWindowsPlace) {
   EXPECT_EQ(PageKey("news", "FrmTop"), "150");
   EXPECT_EQ(PageKey("news", "FrmLeft"), "300");
   EXPECT_EQ(PageKey("news", "PageTop"), "0");
+  EXPECT_EQ(PageKey("news", "PageLeft"), "0");
 }
 
 TEST_F(PageSettingsTest, AddingAPageWithTheFeedClosedOpensItHiddenAndEveryKeyGoesToThePages) {
@@ -139,14 +114,23 @@ TEST_F(PageSettingsTest, AddingAPageWithTheFeedClosedOpensItHiddenAndEveryKeyGoe
   EXPECT_EQ(Listed(), Names{"news"});
 }
 
-TEST_F(PageSettingsTest, ACancelledAdditionAddsAPageWithoutAName) {
+TEST_F(PageSettingsTest, ACancelledAdditionAsksBothQuestionsAndAddsAPageWithoutAName) {
+  Desk();
+  sim.trace.Take();
   Desk().btnAdd.Press();
   EXPECT_EQ(Listed(), Names{""});
+  Names asked = sim.trace.Take();
+  std::erase_if(asked,
+                [](const std::string& line) { return !line.starts_with("input ") && !line.starts_with("box "); });
+  EXPECT_EQ(asked,
+            (Names{"input \"Enter a page name\" \"Add new page\"", "input \"Enter a page URL\" \"Add new page\""}));
 }
 
 TEST_F(PageSettingsTest, AnAddedPageIsTheOneThatLoadOpens) {
   sim.dialogs.inputs = {"news", "news.example"};
   Desk().btnAdd.Press();
+  EXPECT_EQ(CurrentPageName(), "") << "until then nothing shows it";
+  EXPECT_EQ(Desk().txtURL.Text.Get(), "");
   Desk().btnGo.Press();
   EXPECT_EQ(Page().Address(), "http://news.example");
   EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Loaded page: ") << "no row is chosen";
@@ -155,10 +139,12 @@ TEST_F(PageSettingsTest, AnAddedPageIsTheOneThatLoadOpens) {
 TEST_F(PageSettingsTest, LoadOpensTheChosenPageAndTellsSo) {
   Store("news");
   Pick("news");
+  Desk().txtURL.Type("typed.example");  // which nothing reads
   Desk().btnGo.Press();
   EXPECT_EQ(Page().Address(), "http://news.example");
   EXPECT_EQ(CurrentPageName(), "news");
   EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Loaded page: news");
+  EXPECT_FALSE(Feed().Visible) << "a closed feed stays hidden";
 }
 
 TEST_F(PageSettingsTest, DeleteTakesTheChosenPageAwayWithoutAQuestion) {
@@ -177,6 +163,7 @@ TEST_F(PageSettingsTest, DeleteWithNoRowChosenTakesThePageWithoutANameIfThereIsO
   Store("");
   Desk().btnDelete.Press();
   EXPECT_EQ(Listed(), Names{"news"});
+  EXPECT_EQ(PageKey("", "URL"), "(none)");
 }
 
 TEST_F(PageSettingsTest, TheStartUpPageIsStoredAndTheLabelGoesOnTellingTheFormerOne) {
@@ -211,6 +198,23 @@ TEST_F(PageSettingsTest, ALongPressGoesOnUntilTheButtonComesUpAndNothingIsStored
   Desk().btnSave.Press();
   EXPECT_EQ(PageKey("news", "PageTop"), "-1800");
   EXPECT_EQ(Listed(), Names{"news"});
+  EXPECT_EQ(LastBox(), "");
+}
+
+TEST_F(PageSettingsTest, ThePageIsMovedBeyondItsOwnEdgesToo) {
+  Hold(Desk().btnLocation_1, 10ms);
+  EXPECT_EQ(Feed().Web.Left, 200);
+  Feed().Web.Left = -kScreenWidth;
+  Hold(Desk().btnLocation_0, 10ms);
+  EXPECT_EQ(Feed().Web.Left, -kScreenWidth - 200);
+}
+
+TEST_F(PageSettingsTest, AnyButtonOfTheMouseMovesThePage) {
+  Desk().btnLocation_3.PressMouse(MouseButton::kRight);
+  Advance(60ms);
+  Desk().btnLocation_3.ReleaseMouse(MouseButton::kRight);
+  Advance(1s);
+  EXPECT_EQ(Feed().Web.Top, 200) << "one step at once and one at the tick";
 }
 
 TEST_F(PageSettingsTest, StayOnTopActsAtOnceAndIsStored) {
@@ -225,12 +229,14 @@ TEST_F(PageSettingsTest, StayOnTopActsAtOnceAndIsStored) {
 }
 
 TEST_F(PageSettingsTest, TheBoxForClicksIsClearAtFirstWhileThePageTakesThem) {
+  Feed();
   EXPECT_EQ(Desk().chkEnable.Value, 0);
   EXPECT_TRUE(Feed().picWeb.Enabled);
   Desk().chkEnable.Toggle();
   EXPECT_TRUE(Feed().picWeb.Enabled);
   Desk().chkEnable.Toggle();
   EXPECT_FALSE(Feed().picWeb.Enabled);
+  EXPECT_FALSE(sim.files.Read("/station/settings_page.ini")) << "it is stored nowhere";
 }
 
 TEST_F(PageSettingsTest, ThePageIsReloadedWheneverThePeriodIsOver) {
@@ -256,6 +262,7 @@ TEST_F(PageSettingsTest, WithNoPeriodStoredThePageReloadsEverySecondAsLongAsTheD
   EXPECT_EQ(Reloads(), 5);
   Desk().vkCommand5.Press();
   EXPECT_FALSE(station.forms.Loaded<frmPageSettings>());
+  EXPECT_FALSE(sim.files.Read("/station/Page.ini")) << "and no place is stored";
   Advance(5s);
   EXPECT_EQ(Reloads(), 0);
 }
@@ -319,7 +326,8 @@ TEST_F(PageSettingsTest, WhatReachesForAClosedFeedBringsItToLifeHidden) {
   const std::vector<std::function<void()>> reaches{
       [this] { Desk().scrlTrans.Work(100); }, [this] { Desk().chkOntop.Toggle(); },
       [this] { Desk().chkEnable.Toggle(); },  [this] { Desk().btnLocation_0.Press(); },
-      [this] { Desk().btnSave.Press(); },     [this] { Desk().vkCommand1.Press(); }};
+      [this] { Desk().btnSave.Press(); },     [this] { Desk().vkCommand1.Press(); },
+      [this] { Desk().vkCommand2.Press(); }};
   for (const auto& reach : reaches) {
     ASSERT_FALSE(station.forms.Loaded<FrmWeb>());
     reach();
@@ -340,9 +348,13 @@ TEST_F(PageSettingsTest, TheTextGrowsToItsLargestAndItsSizeIsTold) {
   Desk().vkCommand1.Press();
   EXPECT_EQ(LastBox(), "box \"The current font size is 2\" \"Corvanta 6.0\"");
   for (int i = 0; i < 5; ++i) Desk().vkCommand2.Press();
+  EXPECT_EQ(LastBox(), "");
   EXPECT_EQ(Page().Looks().zoom, 150);
   Desk().vkCommand1.Press();
   EXPECT_EQ(LastBox(), "box \"The current font size is 4\" \"Corvanta 6.0\"");
+  EXPECT_FALSE(sim.files.Read("/station/settings_page.ini")) << "it is stored nowhere";
+  station.forms.Unload<FrmWeb>();
+  EXPECT_EQ(Feed().Web.TextSize, 2);
 }
 
 TEST_F(PageSettingsTest, ExitStoresThePlaceAndEndsTheWholeProgramWithTheTaskbarAsItIs) {
@@ -354,6 +366,7 @@ TEST_F(PageSettingsTest, ExitStoresThePlaceAndEndsTheWholeProgramWithTheTaskbarA
   EXPECT_EQ(PageKey("news", "FrmLeft"), "999");
   EXPECT_TRUE(sim.desktop.ended);
   EXPECT_FALSE(sim.desktop.taskbarVisible);
+  EXPECT_TRUE(station.forms.Loaded<FrmWeb>() && station.forms.Loaded<frmPageSettings>()) << "no form is unloaded";
 }
 
 }  // namespace

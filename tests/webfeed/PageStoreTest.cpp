@@ -84,6 +84,17 @@ TEST_F(PageStoreTest, ALostKeyGivesTheSmallWindowsMeasureAndWordsAreNought) {
   EXPECT_EQ(ReadPage(stores, "News").place, (PagePlace{-20, 0, 0, 3000, 3000, 7}));
 }
 
+TEST_F(PageStoreTest, AKeyWithoutAValueIsNotLostAndIsNought) {
+  sim.files.Put("/station/Page.ini", "[News]\r\nFrmHeight=\r\nFrmWidth=\r\nFrmTop=\r\nFrmLeft=\r\n");
+  EXPECT_EQ(ReadPage(stores, "News").place, PagePlace{});
+}
+
+TEST_F(PageStoreTest, NamesAndAddressesAreKeptAsTheyWereTyped) {
+  AddPage(stores, " News ", {" news.example ", news.place});
+  EXPECT_EQ(Pages(), Names{" News "});
+  EXPECT_EQ(ReadPage(stores, " News ").url, " news.example ");
+}
+
 TEST_F(PageStoreTest, ANameWithBracketsLineEndsOrAScriptDamagesNoOtherPage) {
   AddPage(stores, "News", news);
   for (const char* name : {"a]b", "[a]", "a\r\nURL=x", "\n[News]\nURL=stolen", "<script>", "a=b", ";a"}) {

@@ -84,6 +84,7 @@ TEST_F(PreTest, WhatIsSetIsHandedDownToThePanelAndTold) {
 
 TEST_F(PreTest, AResizeKeepsTheOverhang) {
   for (const Twips size : {6000.0, 3000.0}) {
+    pre.Web.Silent = false;
     pre.TakeSize(size, size / 2);
     EXPECT_EQ(pre.picWeb.Left, 0);
     EXPECT_EQ(pre.picWeb.Top, 0);

@@ -65,9 +65,10 @@ TEST_F(WebFeedMenuTest, AtTheStartTheFeedIsBackWithoutTheNetworkToo) {
   EXPECT_FALSE(IsTold(kOfflineBox));
 }
 
-TEST_F(WebFeedMenuTest, AnythingButTrueLeavesItOff) {
+TEST_F(WebFeedMenuTest, AnythingButTrueLeavesItOffAndTakesOffOneThatIsThere) {
   for (const char* value : {"true", "1", "False", ""}) {
     Set("WebFeed", "Show", value);
+    Feed();
     ControlWindow().LoadSett();
     EXPECT_FALSE(station.forms.Loaded<FrmWeb>()) << value;
   }
@@ -77,6 +78,24 @@ TEST_F(WebFeedMenuTest, MaskingTheOutputBringsTheFeedInFront) {
   ControlWindow().mnuShowWebFeed.Choose();
   Advance(std::chrono::seconds(1));
   EXPECT_FALSE(Feed().win.OnTop);
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_TRUE(Feed().win.OnTop);
+}
+
+TEST_F(WebFeedMenuTest, TheFeedIsTheLastThatAMaskedOutputBringsForward) {
+  for (const char* section : {"Output", "logo", "FlashAd", "WebFeed"}) Set(section, "Show", "True");
+  ControlWindow();
+  Advance(std::chrono::seconds(1));
+  ControlWindow().mnuMasking.Choose();
+  const Names stack = sim.windows.Stack();
+  EXPECT_EQ(Names(stack.begin(), stack.begin() + 4), (Names{"FrmWeb", "frmFlashAdShow", "FrmLogoShow", "frmPlayer"}));
+}
+
+TEST_F(WebFeedMenuTest, MaskingLeavesAFeedThatIsOffAsItIs) {
+  ControlWindow().mnuMasking.Choose();
+  EXPECT_FALSE(station.forms.Loaded<FrmWeb>());
+  ControlWindow().mnuMasking.Choose();
+  ASSERT_TRUE(Feed().win.OnTop);
   ControlWindow().mnuMasking.Choose();
   EXPECT_TRUE(Feed().win.OnTop);
 }
