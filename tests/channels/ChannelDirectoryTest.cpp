@@ -58,6 +58,16 @@ TYPED_TEST(ChannelDirectoryTest, AClickOnAChannelWithThePreviewTriesItWithoutSou
   EXPECT_TRUE(this->Preview().Mute());
 }
 
+TYPED_TEST(ChannelDirectoryTest, TheBoxOfThePreviewActsWithTheNextClickOnAChannelAlone) {
+  this->PickChannel("News", "World");
+  this->Desk().chkPreview.Toggle();
+  EXPECT_EQ(this->Preview().State(), PlayState::kUndefined);
+  this->Click(this->Desk().ListChannel, "World");
+  this->Advance(std::chrono::seconds(1));
+  this->Desk().chkPreview.Toggle();
+  EXPECT_EQ(this->Preview().State(), PlayState::kPlaying);
+}
+
 TYPED_TEST(ChannelDirectoryTest, ANewTypeIsAddedAtTheEndAndListed) {
   this->AddType("Sport");
   EXPECT_EQ(this->Asked(), (Names{"input \"Please enter a new channel type name\" \"Add channel type\"",
@@ -74,6 +84,21 @@ TYPED_TEST(ChannelDirectoryTest, ATypeWithoutANameAddsNothing) {
   EXPECT_EQ(this->Asked().size(), 1U);
 }
 
+TYPED_TEST(ChannelDirectoryTest, ATypeIsNamedAsItWasTypedEvenByABlank) {
+  this->AddType(" Sport ");
+  this->AddType(" ");
+  EXPECT_EQ(this->Types(), (Names{"News", "Empty", " Sport ", " "}));
+}
+
+TYPED_TEST(ChannelDirectoryTest, ANewTypeIsToldBeforeItIsListedAndANewChannelAfterIt) {
+  Names listed;
+  this->sim.dialogs.whileStanding = [this, &listed] { listed = this->Types(); };
+  this->AddType("Sport");
+  EXPECT_EQ(listed, (Names{"News", "Empty"}));
+  this->AddChannel("Music", "Jazz", "http://host/jazz");
+  EXPECT_EQ(listed, (Names{"News", "Empty", "Sport", "Music"}));
+}
+
 TYPED_TEST(ChannelDirectoryTest, ATypeThatExistsIsToldAsAddedAndStaysOne) {
   this->AddType("NEWS");
   EXPECT_EQ(this->Asked().back(), "box \"A new channel type hasbeen added\" \"Online channel\"");
@@ -84,6 +109,11 @@ TYPED_TEST(ChannelDirectoryTest, AfterAnAdditionTheChannelsAreStillThoseShownBef
   this->PickType("News");
   this->AddType("Sport");
   EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
+  EXPECT_EQ(this->Desk().ListType.ListIndex.Get(), -1);
+  this->PickType("News");
+  this->AddChannel("News", "Third", "http://host/third");
+  EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
+  EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (2)");
   EXPECT_EQ(this->Desk().ListType.ListIndex.Get(), -1);
 }
 
@@ -112,6 +142,15 @@ TYPED_TEST(ChannelDirectoryTest, ANewChannelIsWrittenUnderItsTypeAndToldInWordsT
   EXPECT_EQ(this->Desk().ChannelURL, "rtsp://host/third?a=b");
 }
 
+TYPED_TEST(ChannelDirectoryTest, AnAddressIsTakenWhateverItIs) {
+  this->AddChannel("News", "Third", "no address");
+  this->AddChannel("News", "Fourth", " ");
+  this->AddChannel("News", " ", "http://host/fifth");
+  EXPECT_EQ(this->Asked(), (Names{kAdded, kAdded, kAdded}));
+  this->PickChannel("News", "Third");
+  EXPECT_EQ(this->Desk().ChannelURL, "no address");
+}
+
 TYPED_TEST(ChannelDirectoryTest, AfterAnAdditionTheTypeOfTheNextChannelIsEmptyAndItsOtherFieldsAreNot) {
   this->AddChannel("News", "Third", "http://host/third");
   EXPECT_EQ(this->Desk().cmbType.Text.Get(), "");
@@ -135,6 +174,7 @@ TYPED_TEST(ChannelDirectoryTest, AChannelThatExistsTakesTheNewAddress) {
 
 TYPED_TEST(ChannelDirectoryTest, OfTheTwoCrossedButtonsTheOneAddsAndTheOtherDoesNothing) {
   const std::string before = this->Content();
+  this->PickChannel("News", "World");
   this->Desk().cmbType.Type("News");
   this->Desk().txtChannelName.Type("Third");
   this->Desk().txtURL.Type("http://host/third");
@@ -156,9 +196,17 @@ TYPED_TEST(ChannelDirectoryTest, ATypeIsDeletedWithItsChannelsIfTheOperatorIsSur
   EXPECT_EQ(this->Content(), "\r\n[Empty]\r\n");
 }
 
-TYPED_TEST(ChannelDirectoryTest, DeletingATypeWithNoneSelectedDeletesNothing) {
+TYPED_TEST(ChannelDirectoryTest, TheChannelsOfATypeThatIsDeletedStayOnShow) {
+  this->PickType("News");
+  this->Answered(Answer::kYes, this->Desk().cmdRemove);
+  EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
+  EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (2)");
+}
+
+TYPED_TEST(ChannelDirectoryTest, DeletingATypeWithNoneSelectedAsksAndDeletesNothing) {
   this->Holds("[]\r\nA=http://a\r\n[News]\r\n");
   this->Answered(Answer::kYes, this->Desk().cmdRemove);
+  EXPECT_EQ(this->Asked(), Names{kDeleteType});
   EXPECT_EQ(this->Content(), "[]\r\nA=http://a\r\n[News]\r\n");
 }
 
@@ -172,10 +220,11 @@ TYPED_TEST(ChannelDirectoryTest, AChannelIsDeletedIfTheOperatorIsSureAndTheOther
   EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (1)");
 }
 
-TYPED_TEST(ChannelDirectoryTest, DeletingAChannelWithNoneSelectedDeletesNothing) {
+TYPED_TEST(ChannelDirectoryTest, DeletingAChannelWithNoneSelectedAsksAndDeletesNothing) {
   const std::string before = this->Content();
   this->PickType("News");
   this->Answered(Answer::kYes, this->Desk().ThemedButton1);
+  EXPECT_EQ(this->Asked(), Names{kDeleteChannel});
   EXPECT_EQ(this->Content(), before);
   EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
 }

@@ -55,6 +55,53 @@ TYPED_TEST(ChannelOnAirTest, AStopTakesTheStreamOffAndLeavesTheProgrammeSilent) 
   EXPECT_TRUE(this->MainPlayer().Mute());
 }
 
+TYPED_TEST(ChannelOnAirTest, AStopForgetsNeitherTheChannelNorItsName) {
+  this->PutOnAir("News", "World");
+  this->Desk().ThemedButton6.Press();
+  EXPECT_EQ(this->Output().lblChannelName.Text.Get(), "World");
+  this->Desk().ThemedButton5.Press();
+  this->Advance(1s);
+  EXPECT_EQ(this->Stream().State(), PlayState::kPlaying);
+}
+
+TYPED_TEST(ChannelOnAirTest, AStopLeavesThePreview) {
+  this->PutOnAir("News", "World");
+  this->Desk().chkPreview.Toggle();
+  this->Click(this->Desk().ListChannel, "Local");
+  this->Advance(1s);
+  this->Desk().ThemedButton6.Press();
+  EXPECT_EQ(this->Preview().State(), PlayState::kPlaying);
+}
+
+TYPED_TEST(ChannelOnAirTest, AStartNeedsNoNetworkAndBringsNoOutputWindowUp) {
+  this->sim.network.SetOnline(false);
+  this->PutOnAir("News", "World");
+  EXPECT_EQ(this->Stream().State(), PlayState::kPlaying);
+  EXPECT_FALSE(this->Output().Visible);
+  EXPECT_TRUE(this->Asked().empty());
+}
+
+TYPED_TEST(ChannelOnAirTest, AClickOnAnotherChannelLeavesTheStreamOnTheAir) {
+  this->PutOnAir("News", "World");
+  this->Click(this->Desk().ListChannel, "Local");
+  this->Advance(1s);
+  EXPECT_EQ(this->Stream().Url(), "mms://host/world");
+}
+
+TYPED_TEST(ChannelOnAirTest, AChannelAndATypeThatAreDeletedGoOnAndAreStartedAgain) {
+  this->PutOnAir("News", "World");
+  for (CommandButton* deletes : {&this->Desk().ThemedButton1, &this->Desk().cmdRemove}) {
+    this->Answered(Answer::kYes, *deletes);
+    EXPECT_EQ(this->Stream().State(), PlayState::kPlaying);
+    EXPECT_TRUE(this->Output().picOnline.Visible);
+    this->Desk().ThemedButton5.Press();
+    this->Advance(1s);
+    EXPECT_EQ(this->Stream().Url(), "mms://host/world");
+  }
+  this->AddType("Sport");
+  EXPECT_EQ(this->Desk().ChannelURL, "mms://host/world");
+}
+
 TYPED_TEST(ChannelOnAirTest, AStopBeforeAnyStartSilencesTheProgrammeToo) {
   this->Desk().ThemedButton6.Press();
   EXPECT_TRUE(this->MainPlayer().Mute());
@@ -81,14 +128,16 @@ TYPED_TEST(ChannelOnAirTest, AStartWithNoChannelClickedShowsAnEmptyPanel) {
   EXPECT_EQ(this->Output().lblChannelName.Text.Get(), "");
   EXPECT_EQ(this->Stream().State(), PlayState::kUndefined);
   EXPECT_EQ(this->Status(), "");
+  EXPECT_TRUE(this->MainPlayer().Mute());
 }
 
 TYPED_TEST(ChannelOnAirTest, AStartPlaysTheChannelClickedLastAlsoAfterTheTypeChanged) {
+  this->PutOnAir("News", "World");
   this->PickChannel("News", "Local");
   this->PickType("Empty");
   this->Desk().ThemedButton5.Press();
   EXPECT_EQ(this->Stream().Url(), "http://host/local");
-  EXPECT_EQ(this->Output().lblChannelName.Text.Get(), "");
+  EXPECT_EQ(this->Output().lblChannelName.Text.Get(), "") << "it is that of the row, and none is selected";
 }
 
 TYPED_TEST(ChannelOnAirTest, AStreamThatBreaksShowsInTheStatusAloneAndComesBackByItself) {
@@ -213,6 +262,8 @@ TEST_F(BothDirectoriesTest, AStartAtOneDeskReplacesTheStreamOfTheOtherWhoseStatu
   Advance(1s);
   EXPECT_EQ(Desk().lblStatus.Caption.Get(), "Cannot be played");
   EXPECT_EQ(radio.lblStatus.Caption.Get(), "Cannot be played");
+  radio.ThemedButton6.Press();
+  EXPECT_TRUE(Desk().Timer1.Enabled) << "a stop ends the status of its own desk alone";
 }
 
 }  // namespace
