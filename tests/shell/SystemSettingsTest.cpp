@@ -59,6 +59,13 @@ TEST_F(SystemSettingsTest, AValueThatIsEmptyOrNoNumberIsZero) {
   EXPECT_EQ(Desk().CurrentPassword, "0");
 }
 
+TEST_F(SystemSettingsTest, ABoxOfAnotherNumberThanOneIsNotTicked) {
+  for (const char* key : {"StartUp", "NeedPass", "ShowMouse", "ShowTaskbar"}) Set("Settings", key, "2");
+  for (const CheckBox* box : {&Desk().chkStartUp, &Desk().chkPass, &Desk().chkMouse, &Desk().ChkTaskBar}) {
+    EXPECT_FALSE(box->Ticked()) << box->Name();
+  }
+}
+
 TEST_F(SystemSettingsTest, LoadingSwitchesAndWritesNothing) {
   Set("Settings", "ShowMouse", "1");
   Set("Settings", "ShowTaskbar", "0");
@@ -204,6 +211,25 @@ TEST_F(SystemSettingsTest, TheExtensionsAreWrittenToldAndLoadedAnew) {
   EXPECT_EQ(Does([this] { Desk().btnSaveExt.Press(); }), Names{"box \"Settings has been saved\" \"Settings\""});
   EXPECT_EQ(OnDisk("Ext"), "*.mp4;*.MKV");
   EXPECT_EQ(Desk().txtPass.Text.Get(), "") << "what was typed beside it is shown as it is stored";
+}
+
+TEST_F(SystemSettingsTest, TheExtensionsAreStoredWithTheirBlanks) {
+  Desk().txtExt.Type(" *.mp4 ");
+  Desk().btnSaveExt.Press();
+  EXPECT_EQ(OnDisk("Ext"), " *.mp4 ");
+}
+
+TEST_F(SystemSettingsTest, ANewPasswordIsLoadedBeforeItIsToldAndTheExtensionsAfterIt) {
+  Desk();
+  Set("Settings", "NeedPass", "1");
+  std::string current;
+  sim.dialogs.whileStanding = [this, &current] { current = Desk().CurrentPassword; };
+  Desk().btnSaveExt.Press();
+  EXPECT_EQ(current, "0");
+  EXPECT_EQ(Desk().CurrentPassword, "1");
+  Set("Settings", "NeedPass", "2");
+  SavePassword("1");
+  EXPECT_EQ(current, "2");
 }
 
 TEST_F(SystemSettingsTest, WithAFullDiskTheTextsShowWhatIsStored) {
