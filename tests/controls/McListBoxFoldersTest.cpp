@@ -20,8 +20,11 @@ class McListBoxFoldersTest : public McListBoxTest {
 };
 
 TEST_F(McListBoxFoldersTest, TheFoldersOfAPathAreListedInTheOrderInWhichTheyAreGiven) {
-  list.SortOrder = McListBox::kDescending;  // of no effect here
+  list.SortOrder = McListBox::kDescending;  // of no effect here, be it set before or after
   Show(McListBox::kFolders);
+  EXPECT_EQ(Shown(), (Names{"A", "b"}));
+  list.SortOrder = McListBox::kUnsorted;
+  list.SortOrder = McListBox::kDescending;
   EXPECT_EQ(Shown(), (Names{"A", "b"}));
   EXPECT_EQ(list.ListIcon(0), -1);
   EXPECT_FALSE(list.ListBold(0));
@@ -77,6 +80,35 @@ TEST_F(McListBoxFoldersTest, TheSamePathWithoutItsSeparatorIsAnotherTextAndReads
   sim.files.CreateFolder("/lib/new");
   list.Path = "/lib";
   EXPECT_EQ(Shown(), (Names{"A", "b", "new"}));
+  EXPECT_EQ(redraws, 1);
+}
+
+TEST_F(McListBoxFoldersTest, AnotherSpellingOfThePathOrTheFilterIsAnotherTextAndReadsAnew) {
+  Show(McListBox::kFiles);
+  list.Path = "/LIB/";
+  EXPECT_EQ(list.Path.Get(), "/LIB/");
+  EXPECT_EQ(redraws, 1);
+  list.Filter = "*.SWF";
+  list.Filter = "*.swf";
+  EXPECT_EQ(redraws, 3);
+}
+
+TEST_F(McListBoxFoldersTest, FillingAnewBringsTheFirstRowIntoView) {
+  Show(McListBox::kFolders);
+  wanted.clear();
+  list.Path = "/lib";
+  EXPECT_EQ(wanted, std::vector<int>{0});
+  list.Path = "/lib/";  // the text that it has
+  EXPECT_EQ(wanted, std::vector<int>{0});
+}
+
+TEST_F(McListBoxFoldersTest, WithoutAutoRefreshTheListIsFilledAndDrawnByTheNextRefresh) {
+  list.AutoRefresh = false;
+  list.Mode = McListBox::kFolders;
+  list.Path = "/lib";
+  EXPECT_EQ(Shown(), (Names{"A", "b"}));
+  EXPECT_EQ(redraws, 0);
+  list.Refresh();
   EXPECT_EQ(redraws, 1);
 }
 

@@ -126,6 +126,10 @@ TEST_F(McListBoxTest, ItemsAreSortedByTheWholeRecordSoThatALongerTextMayStandBef
   list.AddItem("same", -1, 2);
   list.AddItem("same", -1, 10);
   EXPECT_EQ(list.ListIcon(0), 10);  // numbers as texts
+  list.Clear();
+  list.AddItem("same", -1, -1, true);
+  list.AddItem("same", -1, -1, false);
+  EXPECT_FALSE(list.ListBold(0));  // "False" before "True"
 }
 
 TEST_F(McListBoxTest, TheSelectionGoesWithItsRowWhenItIsSorted) {

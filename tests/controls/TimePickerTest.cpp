@@ -76,6 +76,8 @@ TEST_F(TimePickerTest, WhatIsTypedIsTakenAsItIs) {
   picker.cmbSS.Type("soon");
   picker.cmbAMPM.Type("am");
   EXPECT_EQ(picker.GetTime(), "25::soon am");
+  picker.CmbHH.Type("7");
+  EXPECT_EQ(picker.GetTime(), "7::soon am");
 }
 
 TEST_F(TimePickerTest, TwoOnOneFormAreTwo) {
