@@ -2,14 +2,25 @@
 
 using namespace std::chrono_literals;
 
-class OptionsTest : public StationTest {};
+class OptionsTest : public StationTest {
+ protected:
+  // Each box, with its key.
+  static constexpr struct {
+    CheckBox frmPlaylist::*box;
+    const char* key;
+  } kBoxes[] = {{&frmPlaylist::chkPreview, "ClickTOPlay"},
+                {&frmPlaylist::chkTime, "TimeON"},
+                {&frmPlaylist::chkDaySchedule, "DaySchdule"},
+                {&frmPlaylist::chkLastPlay, "LastPlay"},
+                {&frmPlaylist::chkFolderPlay, "PlayLocation"},
+                {&frmPlaylist::chkRendomPlay, "RendomPlay"},
+                {&frmPlaylist::chkOneAfterAnother, "OneAfterAnother"},
+                {&frmPlaylist::ChkQuickPlay, "QuickPlay"}};
+};
 
 TEST_F(OptionsTest, OnTheVeryFirstRunEveryBoxIsClearAndTheListIsEmpty) {
-  frmPlaylist& form = Playlists();
-  for (const CheckBox* box : {&form.chkPreview, &form.chkTime, &form.chkDaySchedule, &form.chkLastPlay,
-                              &form.chkFolderPlay, &form.chkRendomPlay, &form.chkOneAfterAnother, &form.ChkQuickPlay}) {
-    EXPECT_EQ(box->Value.Get(), 0) << box->Name();
-  }
+  const frmPlaylist& form = Playlists();
+  for (const auto& [box, key] : kBoxes) EXPECT_EQ((form.*box).Value.Get(), 0) << key;
   EXPECT_FALSE(form.TimerFind.Enabled);
   EXPECT_FALSE(form.TimerDay.Enabled);
   EXPECT_EQ(form.ListPlay.Count(), 0);
@@ -22,21 +33,14 @@ TEST_F(OptionsTest, ItsTimersHaveTheirIntervalsAndTheSchedulesWaitForTheirBoxes)
 }
 
 TEST_F(OptionsTest, EveryBoxComesBackAsItWasLeft) {
-  for (const char* on : {"ClickTOPlay", "TimeON", "DaySchdule", "LastPlay", "PlayLocation", "RendomPlay",
-                         "OneAfterAnother", "QuickPlay"}) {
+  for (const auto& [ticked, on] : kBoxes) {
     Station next(sim.world, "/station");
     sim.files.Put("/station/Settings.ini", std::string("[Playlist]\r\n") + on + "=1\r\n");
     ConnectRoads(next);
     const auto& form = next.forms.Get<frmPlaylist>();
-    const std::pair<const CheckBox*, std::string> boxes[] = {{&form.chkPreview, "ClickTOPlay"},
-                                                             {&form.chkTime, "TimeON"},
-                                                             {&form.chkDaySchedule, "DaySchdule"},
-                                                             {&form.chkLastPlay, "LastPlay"},
-                                                             {&form.chkFolderPlay, "PlayLocation"},
-                                                             {&form.chkRendomPlay, "RendomPlay"},
-                                                             {&form.chkOneAfterAnother, "OneAfterAnother"},
-                                                             {&form.ChkQuickPlay, "QuickPlay"}};
-    for (const auto& [box, key] : boxes) EXPECT_EQ(box->Value.Get(), key == on ? 1 : 0) << key << " with " << on;
+    for (const auto& [box, key] : kBoxes) {
+      EXPECT_EQ((form.*box).Value.Get(), box == ticked ? 1 : 0) << key << " with " << on;
+    }
     EXPECT_EQ(form.TimerFind.Enabled.Get(), form.chkTime.Ticked());
     EXPECT_EQ(form.TimerDay.Enabled.Get(), form.chkDaySchedule.Ticked());
   }
@@ -44,19 +48,11 @@ TEST_F(OptionsTest, EveryBoxComesBackAsItWasLeft) {
 
 TEST_F(OptionsTest, AClickWritesTheBoxAtOnceUnderItsOwnKey) {
   frmPlaylist& form = Playlists();
-  const std::pair<CheckBox*, const char*> boxes[] = {{&form.chkPreview, "ClickTOPlay"},
-                                                     {&form.chkTime, "TimeON"},
-                                                     {&form.chkDaySchedule, "DaySchdule"},
-                                                     {&form.chkLastPlay, "LastPlay"},
-                                                     {&form.chkFolderPlay, "PlayLocation"},
-                                                     {&form.chkRendomPlay, "RendomPlay"},
-                                                     {&form.chkOneAfterAnother, "OneAfterAnother"},
-                                                     {&form.ChkQuickPlay, "QuickPlay"}};
-  for (const auto& [box, key] : boxes) {
-    box->Toggle();
-    EXPECT_EQ(Setting("Playlist", key), "1") << key;
-    box->Toggle();
-    EXPECT_EQ(Setting("Playlist", key), "0") << key;
+  for (const auto& [box, key] : kBoxes) {
+    for (const char* value : {"1", "0"}) {
+      (form.*box).Toggle();
+      EXPECT_EQ(Setting("Playlist", key), value) << key;
+    }
   }
 }
 
