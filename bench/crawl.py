@@ -21,6 +21,13 @@ def counts(heard):
     return int(ticks), int(late), float(worst)
 
 
+def told_since(before, heard):
+    """In words, the ticks since those counts, and how many of them were late."""
+    ticks, late, worst = counts(heard)
+    ticks, late = ticks - before[0], late - before[1]
+    return f"{late} late of {ticks} ticks, {late * TICKS / ticks:.1f} per {TICKS}; latest {worst:.1f} ms"
+
+
 def main():
     seconds = float(sys.argv[1]) if len(sys.argv) > 1 else 600
     band = [clip(), picture("header.jpg", "1920x40"), picture("scroll.jpg", "6000x90")]
@@ -37,9 +44,7 @@ def main():
         time.sleep(seconds)
         for name, (heard, process) in running.items():
             assert process.poll() is None, f"{name} ended early"
-            ticks, late, worst = counts(heard)
-            ticks, late = ticks - before[name][0], late - before[name][1]
-            print(f"{name:10} {late} late of {ticks} ticks, {late * TICKS / ticks:.1f} per {TICKS}; latest {worst:.1f} ms")
+            print(f"{name:10} {told_since(before[name], heard)}")
             process.kill()
 
 

@@ -10,10 +10,11 @@ import sys
 import time
 
 from composed import picture
-from crawl import TICKS, counts
+from crawl import counts, told_since
 from harness import ini, media
 from harness.desk import Desk
 from harness.patience import until
+from harness.station import web_page
 from harness.streams import Streams
 from meter import Meter, x_server
 from startup import LOOK_EVERY, SPLASH
@@ -32,10 +33,7 @@ STRIP = (90, 0, 10)
 def add_page(station, body):
     page = station.folder / "page.html"
     page.write_text(body)
-    left, top, width, height = window(*PAGE_PLACE).values()
-    place = {"FrmLeft": left, "FrmTop": top, "FrmWidth": width, "FrmHeight": height, "PageLeft": 0, "PageTop": 0}
-    ini.write(station.folder / "Page.ini", {"Page": {"URL": page, **place}})
-    ini.write(station.folder / "settings_page.ini", {"StartUpPage": {"PageName": "Page"}})
+    web_page(station.folder, page, PAGE_PLACE)
     station.change("WebFeed", Show="True")
 
 
@@ -107,10 +105,8 @@ def play(minutes):
         meter, before = Meter(run.process.pid, x_server()), counts(run.heard)
         desk.screen.picture(media.ROOT / "build" / "bench-everything.png")
         watch_memory(run, minutes)
-        ticks, late, worst = counts(run.heard)
-        ticks, late = ticks - before[0], late - before[1]
         assert run.process.poll() is None, "it ended early"
-        print(f"{meter.cost():.2f} CPU s/s, {late} late of {ticks} ticks ({late * TICKS / ticks:.1f} per {TICKS}, latest {worst:.1f} ms)")
+        print(f"{meter.cost():.2f} CPU s/s, {told_since(before, run.heard)}")
         run.process.kill()
         run.process.wait()
 

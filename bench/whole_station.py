@@ -11,7 +11,7 @@ import sys
 import time
 
 from composed import ROOT, clip, picture
-from crawl import TICKS, counts
+from crawl import counts, told_since
 from harness import ini
 from harness.desk import Desk
 from harness.station import PROGRAM as STATION
@@ -114,9 +114,7 @@ def measure(name, make, seconds, minutes=0):
         cost = run.cost()
         print(f"{name:22} {cost:.2f} CPU s/s, {run.memory():.0f} MB", end="", flush=True)
         if before is not None:
-            ticks, late, worst = counts(run.heard)
-            ticks, late = ticks - before[0], late - before[1]
-            print(f", {late} late of {ticks} ticks ({late * TICKS / ticks:.1f} per {TICKS}, latest {worst:.1f} ms)", end="")
+            print(f", {told_since(before, run.heard)}", end="")
         print(flush=True)
         desk.screen.picture(ROOT / "build" / f"bench-station-{name.replace(' ', '-')}.png")
         watch_memory(run, minutes)

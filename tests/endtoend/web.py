@@ -10,7 +10,7 @@ from harness.patience import throughout, until
 from harness.processes import command_of, is_there, kill_part, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, require_network, scenario
-from harness.station import TWIPS, Station
+from harness.station import TWIPS, WEB_PAGE, Station, web_page
 
 # A browser has to come up, on a machine that may be busy with other things.
 BROWSER = 100.0
@@ -21,11 +21,7 @@ OFFSET = (-300, -200)  # of the page in it
 def station_with_page(desk, address):
     """A station that shows its control window and the page at the start; the programme's frames count."""
     station = Station(desk, settings={"Settings": {"StartUp": "1"}, "WebFeed": {"Show": "True"}})
-    measures = dict(zip(("FrmLeft", "FrmTop", "FrmWidth", "FrmHeight"), PLACE))
-    measures.update(zip(("PageLeft", "PageTop"), OFFSET))
-    keys = {key: str(pixels * TWIPS) for key, pixels in measures.items()}
-    ini.write(station.folder / "Page.ini", {"board": {"URL": address, **keys}})
-    ini.write(station.folder / "settings_page.ini", {"StartUpPage": {"PageName": "board"}})
+    web_page(station.folder, address, PLACE, OFFSET)
     station.playlist(media.frames())
     return station
 
@@ -36,7 +32,7 @@ def window(station):
 
 
 def stored(station, key):
-    return ini.value(station.folder / "Page.ini", "board", key)
+    return ini.value(station.folder / "Page.ini", WEB_PAGE, key)
 
 
 def shows_page(station, place=PLACE, offset=OFFSET):
@@ -191,7 +187,7 @@ def no_page_holds_up_the_station_or_the_page_behind_it(desk):
             time.sleep(3)
             assert_programme_runs(station)
             assert {window.number for window in desk.screen.windows()} == shown, f"what does {name} show?"
-            reader.press("board", "list item")
+            reader.press(WEB_PAGE, "list item")
             reader.press("Load")
             await_page(station)
 

@@ -10,7 +10,7 @@ from harness.patience import until
 from harness.processes import tree_of
 from harness.reader import Reader
 from harness.scenarios import has_network, main, scenario
-from harness.station import PROGRAM, TWIPS
+from harness.station import PROGRAM, web_page
 from harness.streams import Streams
 
 import stage  # the demo station, on the path by way of the harness's media
@@ -68,11 +68,8 @@ class Watch:
 def staged(folder):
     """A demo station with a page, and a channel that is not on the air yet."""
     page = folder / "page.html"
-    left, top, width, height = (str(measure * TWIPS) for measure in PAGE_PLACE)
-    place = {"FrmLeft": left, "FrmTop": top, "FrmWidth": width, "FrmHeight": height, "PageLeft": 0, "PageTop": 0}
-    ini.write(folder / "Page.ini", {"Colours": {"URL": page, **place}})
-    ini.write(folder / "settings_page.ini", {"StartUpPage": {"PageName": "Colours"}})
     page.write_text(PAGE)
+    web_page(folder, page, PAGE_PLACE)
     subprocess.run([sys.executable, media.ROOT / "demo" / "stage.py", PROGRAM, folder], check=True)
     with open(folder / "Settings.ini", "a", newline="") as settings:
         settings.write(ini.text({"WebFeed": {"Show": "True"}}))

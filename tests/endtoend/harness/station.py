@@ -12,6 +12,8 @@ from .reader import Reader
 PROGRAM = media.ROOT / "build" / "release" / "app" / "corvanta"
 BESIDE = [PROGRAM.with_name(name) for name in ("corvanta-movies", "corvanta-pages")]
 TWIPS = 15
+WEB_PAGE = "board"
+"""The name of the page that a station begins with."""
 
 
 class Station:
@@ -189,6 +191,15 @@ class Station:
     def _is_alive(self):
         assert self.alive, f"the program ended with status {self.exit_status()}"
         return True
+
+
+def web_page(folder, address, window, offset=(0, 0)):
+    """Stores the page that a station in `folder` begins with: the place of its window (left, top, width, height) and
+    where in it the page lies, in pixels."""
+    keys = ("FrmLeft", "FrmTop", "FrmWidth", "FrmHeight", "PageLeft", "PageTop")
+    places = {key: str(pixels * TWIPS) for key, pixels in zip(keys, (*window, *offset))}
+    ini.write(folder / "Page.ini", {WEB_PAGE: {"URL": address, **places}})
+    ini.write(folder / "settings_page.ini", {"StartUpPage": {"PageName": WEB_PAGE}})
 
 
 def corvanta_is_built():
