@@ -10,6 +10,7 @@
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixNetwork.h"
 #include "platform/qt/GraphicsChoice.h"
+#include "platform/qt/Heap.h"
 #include "platform/qt/Locale.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtScheduler.h"
@@ -70,6 +71,7 @@ struct QtWorld::Parts {
 };
 
 std::unique_ptr<QtWorld::Parts> QtWorld::MakeParts() {
+  SettleHeap();
   SettleLocale();
   ChooseGraphics();
   return std::make_unique<Parts>();
