@@ -57,6 +57,7 @@ inline constexpr auto kOptions = std::to_array<std::pair<const char*, const char
     {"audio-client-name", "Corvanta"},
     // A stream that runs for weeks keeps no past.
     {"demuxer-max-back-bytes", "0"},
+    {"demuxer-donate-buffer", "no"},
     {"demuxer-max-bytes", "32MiB"},
     {"network-timeout", "20"},
 });
