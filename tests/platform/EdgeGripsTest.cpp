@@ -57,6 +57,8 @@ TEST_F(EdgeGripsTest, APressInsideMovesTheForm) {
   Pull(700, 700, 150, -300);
   EXPECT_EQ(Rect(), (Place{1150, 1700, 3000, 1500}));
   EXPECT_EQ(form.Pointer.Get(), MousePointer::kMove);
+  Pull(700, 700, -1500, -3000);
+  EXPECT_EQ(Rect(), (Place{-350, -1300, 3000, 1500})) << "beyond the screen as well";
 }
 
 TEST_F(EdgeGripsTest, AnEdgePullsItsOwnSideAlone) {
@@ -101,9 +103,11 @@ TEST_F(EdgeGripsTest, AFormShrinksToJustOverTenPixelsAndNoFurther) {
   form.Width = 300;
   Pull(10, 700, 149, 0);
   EXPECT_EQ(form.Width, 151);
+  const Twips left = form.Left;
   form.Width = 300;
   Pull(10, 700, 150, 0);
   EXPECT_EQ(form.Width, 300);
+  EXPECT_EQ(form.Left, left) << "the edge that is pulled stays, too";
   Pull(295, 700, -150, 0);
   EXPECT_EQ(form.Width, 300);
   Pull(295, 700, -149, 0);
