@@ -248,6 +248,7 @@ TEST_F(FrmWebTest, ClosingStoresWithTheDeskClosedToo) {
   station.forms.Unload<FrmWeb>();
   EXPECT_EQ(PageKey("news", "FrmTop"), "555");
   EXPECT_FALSE(station.forms.Loaded<frmPageSettings>());
+  EXPECT_EQ(Setting("WebFeed", "Show"), "(none)") << "it is the menu that turns the feed off";
 }
 
 TEST_F(FrmWebTest, ClosingWithoutAPageOrWithADeletedOneWritesItsSectionAllTheSame) {

@@ -14,6 +14,7 @@ TEST_F(PageSettingsTest, ThePagesStandInTheOrderOfTheFileAndTheStartUpPageIsTold
   SetStartUpPage("board");
   EXPECT_EQ(Desk().Caption.Get(), "Web feed settings");
   EXPECT_EQ(Listed(), (Names{"news", "board"}));
+  EXPECT_EQ(Desk().listPage.Text(), "");
   EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: board");
 }
 
@@ -70,6 +71,7 @@ TEST_F(PageSettingsTest, ADoubleClickAndThePreviewButtonOpenThePageInThePreview)
   Desk().listPage.DoubleClick();
   EXPECT_EQ(preview.Address(), "http://news.example");
   Pick("board");
+  EXPECT_EQ(preview.Address(), "http://news.example") << "a click leaves it";
   Desk().vkCommand4.Press();
   EXPECT_EQ(preview.Address(), "http://board.example");
   EXPECT_TRUE(Desk().WebPre.Silent);
@@ -140,6 +142,7 @@ TEST_F(PageSettingsTest, LoadOpensTheChosenPageAndTellsSo) {
   Store("news");
   Pick("news");
   Desk().txtURL.Type("typed.example");  // which nothing reads
+  EXPECT_EQ(sim.browser.Find("frmPageSettings.WebPre")->Address(), "");
   Desk().btnGo.Press();
   EXPECT_EQ(Page().Address(), "http://news.example");
   EXPECT_EQ(CurrentPageName(), "news");
@@ -199,6 +202,7 @@ TEST_F(PageSettingsTest, ALongPressGoesOnUntilTheButtonComesUpAndNothingIsStored
   EXPECT_EQ(PageKey("news", "PageTop"), "-1800");
   EXPECT_EQ(Listed(), Names{"news"});
   EXPECT_EQ(LastBox(), "");
+  EXPECT_EQ(Desk().lblStartPage.Caption.Get(), "Start up page: news");
 }
 
 TEST_F(PageSettingsTest, ThePageIsMovedBeyondItsOwnEdgesToo) {
@@ -286,6 +290,16 @@ TEST_F(PageSettingsTest, APeriodThatIsNoNumberIsNoughtAndOneBeyondAllBoundsIsThe
   EXPECT_EQ(Desk().RefreshSeconds, 32767);
 }
 
+TEST_F(PageSettingsTest, APeriodBelowNoughtReloadsEverySecondAsNoughtDoes) {
+  SetOption("Settings", "Refresh", "1");
+  SetOption("Settings", "Min", "-5 Min");
+  EXPECT_EQ(Desk().RefreshSeconds, -300);
+  Feed();
+  sim.trace.Take();
+  Advance(3s);
+  EXPECT_EQ(Reloads(), 3);
+}
+
 TEST_F(PageSettingsTest, BehindAClickInTheListThePeriodIsWrittenIntoThePagesWhereItLooksLikeOne) {
   Store("news");
   Pick("news");
@@ -305,6 +319,12 @@ TEST_F(PageSettingsTest, TheTransparencyIsStoredAndMakesTheWindowALayeredOneWith
     EXPECT_EQ(Feed().ExtendedStyle, kLayered | 0x20);
   }
   EXPECT_EQ(Feed().KeyInForce(), std::nullopt);
+}
+
+TEST_F(PageSettingsTest, ATransparencyThatIsTypedIsNotTaken) {
+  Desk().txtTrans.Type("200");
+  EXPECT_EQ(Desk().scrlTrans.Value, 10);
+  EXPECT_EQ(Option("Display", "Trans"), "(none)");
 }
 
 TEST_F(PageSettingsTest, TheTopmostTwentyTransparenciesLeaveTheWindowsStyleAloneAndAreStored) {
@@ -350,6 +370,7 @@ TEST_F(PageSettingsTest, TheTextGrowsToItsLargestAndItsSizeIsTold) {
   for (int i = 0; i < 5; ++i) Desk().vkCommand2.Press();
   EXPECT_EQ(LastBox(), "");
   EXPECT_EQ(Page().Looks().zoom, 150);
+  EXPECT_EQ(Desk().WebPre.TextSize, 2) << "the preview's stays";
   Desk().vkCommand1.Press();
   EXPECT_EQ(LastBox(), "box \"The current font size is 4\" \"Corvanta 6.0\"");
   EXPECT_FALSE(sim.files.Read("/station/settings_page.ini")) << "it is stored nowhere";

@@ -56,10 +56,13 @@ TEST_F(WebFeedMenuTest, TheDeskOpensOnLineAlone) {
 }
 
 TEST_F(WebFeedMenuTest, AtTheStartTheFeedIsBackWithoutTheNetworkToo) {
+  Store("news");
+  SetStartUpPage("news");
   Set("WebFeed", "Show", "True");
   sim.network.SetOnline(false);
   ControlWindow();
   ASSERT_TRUE(station.forms.Loaded<FrmWeb>());
+  EXPECT_EQ(Page().Address(), "http://news.example");
   EXPECT_TRUE(Feed().Visible);
   EXPECT_TRUE(ControlWindow().mnuShowWebFeed.Checked);
   EXPECT_FALSE(IsTold(kOfflineBox));
