@@ -34,6 +34,7 @@ TYPED_TEST(ChannelDirectoryTest, AClickOnATypeListsItsChannels) {
   this->PickType("News");
   EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
   EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (2)");
+  EXPECT_EQ(this->Desk().cmbType.Text.Get(), "") << "the type of a new channel is another matter";
 }
 
 TYPED_TEST(ChannelDirectoryTest, ATypeWithoutChannelsCountsNone) {
@@ -47,6 +48,7 @@ TYPED_TEST(ChannelDirectoryTest, AClickOnAChannelWithoutThePreviewOnlyRemembersI
   this->PickChannel("News", "World");
   EXPECT_EQ(this->Desk().ChannelURL, "mms://host/world");
   EXPECT_EQ(this->Preview().State(), PlayState::kUndefined);
+  EXPECT_EQ(this->Desk().txtURL.Text.Get(), "");
 }
 
 TYPED_TEST(ChannelDirectoryTest, AClickOnAChannelWithThePreviewTriesItWithoutSound) {
@@ -65,7 +67,18 @@ TYPED_TEST(ChannelDirectoryTest, TheBoxOfThePreviewActsWithTheNextClickOnAChanne
   this->Click(this->Desk().ListChannel, "World");
   this->Advance(std::chrono::seconds(1));
   this->Desk().chkPreview.Toggle();
+  this->Click(this->Desk().ListChannel, "Local");
+  EXPECT_EQ(this->Preview().Url(), "mms://host/world");
   EXPECT_EQ(this->Preview().State(), PlayState::kPlaying);
+}
+
+TYPED_TEST(ChannelDirectoryTest, AChannelWithoutAnAddressEndsThePreview) {
+  this->Holds("[News]\r\nWorld=mms://host/world\r\nNone=\r\n");
+  this->Desk().chkPreview.Toggle();
+  this->PickChannel("News", "World");
+  this->Advance(std::chrono::seconds(1));
+  this->Click(this->Desk().ListChannel, "None");
+  EXPECT_NE(this->Preview().State(), PlayState::kPlaying);
 }
 
 TYPED_TEST(ChannelDirectoryTest, ANewTypeIsAddedAtTheEndAndListed) {

@@ -264,6 +264,9 @@ TEST_F(BothDirectoriesTest, AStartAtOneDeskReplacesTheStreamOfTheOtherWhoseStatu
   EXPECT_EQ(radio.lblStatus.Caption.Get(), "Cannot be played");
   radio.ThemedButton6.Press();
   EXPECT_TRUE(Desk().Timer1.Enabled) << "a stop ends the status of its own desk alone";
+  Advance(1s);
+  EXPECT_EQ(Desk().lblStatus.Caption.Get(), "Stopped");
+  EXPECT_EQ(radio.lblStatus.Caption.Get(), "Cannot be played");
 }
 
 }  // namespace
