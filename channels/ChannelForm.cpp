@@ -123,29 +123,22 @@ void ChannelForm::AddChannel() {
   MsgBox("A new channel has bee", Buttons::kOk, kAddTitle);
 }
 
-// The question is about what was selected when it opened. With no type selected nothing goes, not even the nameless
-// one that a file may hold.
+// The question is about what was selected when it opened; with none selected it is about the type without a name, if
+// the file holds one, and the next about the channel without one. Meant so.
 void ChannelForm::DeleteType() {
-  const bool isSelected = ListType.ListIndex >= 0;
   const std::string type = ListType.Text();
   const char* question = "Are You Sure you wnat to Delete this channel type?";
   if (MsgBox(question, Buttons::kYesNo, kDeleteTitle) != Answer::kYes) return;
-  if (isSelected) File().Sections().Remove(type);
+  File().Sections().Remove(type);
   LoadChannels();
 }
 
 void ChannelForm::DeleteChannel() {
   const int type = ListType.ListIndex;
-  const bool isSelected = ListChannel.ListIndex >= 0;
   const std::string channel = ListChannel.Text();
   const char* question = "Are You Sure you wnat to Delete this channel ?";
   if (MsgBox(question, Buttons::kYesNo, kDeleteTitle) != Answer::kYes) return;
-  SkippingFailures(
-      [&] {
-        IniKeys channels = ChannelsAt(File(), type);
-        if (isSelected) channels.Remove(channel);
-      },
-      [this] { ListType_Click(); });
+  SkippingFailures([&] { ChannelsAt(File(), type).Remove(channel); }, [this] { ListType_Click(); });
 }
 
 void ChannelForm::StartBroadcast() {

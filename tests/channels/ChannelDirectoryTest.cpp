@@ -216,11 +216,15 @@ TYPED_TEST(ChannelDirectoryTest, TheChannelsOfATypeThatIsDeletedStayOnShow) {
   EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (2)");
 }
 
-TYPED_TEST(ChannelDirectoryTest, DeletingATypeWithNoneSelectedAsksAndDeletesNothing) {
-  this->Holds("[]\r\nA=http://a\r\n[News]\r\n");
+TYPED_TEST(ChannelDirectoryTest, DeletingATypeWithNoneSelectedAsksAndTakesTheOneWithoutANameIfThereIsOne) {
+  const std::string before = this->Content();
   this->Answered(Answer::kYes, this->Desk().cmdRemove);
   EXPECT_EQ(this->Asked(), Names{kDeleteType});
-  EXPECT_EQ(this->Content(), "[]\r\nA=http://a\r\n[News]\r\n");
+  EXPECT_EQ(this->Content(), before);
+  this->Holds("[]\r\nA=http://a\r\n[News]\r\n");
+  this->Answered(Answer::kYes, this->Desk().cmdRemove);
+  EXPECT_EQ(this->Types(), Names{"News"});
+  EXPECT_EQ(this->Content(), "[News]\r\n");
 }
 
 TYPED_TEST(ChannelDirectoryTest, AChannelIsDeletedIfTheOperatorIsSureAndTheOthersAreListed) {
@@ -233,13 +237,17 @@ TYPED_TEST(ChannelDirectoryTest, AChannelIsDeletedIfTheOperatorIsSureAndTheOther
   EXPECT_EQ(this->Desk().lblChannel.Caption.Get(), "Channels (1)");
 }
 
-TYPED_TEST(ChannelDirectoryTest, DeletingAChannelWithNoneSelectedAsksAndDeletesNothing) {
+TYPED_TEST(ChannelDirectoryTest, DeletingAChannelWithNoneSelectedAsksAndTakesTheOneWithoutANameIfThereIsOne) {
   const std::string before = this->Content();
   this->PickType("News");
   this->Answered(Answer::kYes, this->Desk().ThemedButton1);
   EXPECT_EQ(this->Asked(), Names{kDeleteChannel});
   EXPECT_EQ(this->Content(), before);
   EXPECT_EQ(this->Channels(), (Names{"World", "Local"}));
+  this->Holds("[News]\r\nWorld=mms://host/world\r\n=http://host/nameless\r\n");
+  this->PickType("News");
+  this->Answered(Answer::kYes, this->Desk().ThemedButton1);
+  EXPECT_EQ(this->Content(), "[News]\r\nWorld=mms://host/world\r\n");
 }
 
 TYPED_TEST(ChannelDirectoryTest, DeletingAChannelWithNoTypeSelectedSaysNothingAndClearsTheList) {
