@@ -7,18 +7,16 @@
 
 #include "platform/posix/PosixFiles.h"
 #include "platform/qt/QtClock.h"
-#include "platform/qt/QtScheduler.h"
 #include "platform/qt/desktop/QtPictures.h"
 #include "platform/qt/flash/QtFlash.h"
 #include "platform/qt/media/MpvEngine.h"
-#include "platform/qt/scene/OnAirWindow.h"
-#include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
 #include "platform/toolkit/FlashBox.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "platform/toolkit/PlayerControl.h"
 #include "settings/Station.h"
+#include "tests/platform/qt/LastWindow.h"
 #include "tests/platform/qt/TestMedia.h"
 
 namespace {
@@ -59,15 +57,8 @@ class frmProbe : public Form {
   PlayerControl Player{Media, "Player"};
 };
 
-class OnAirWindowTest : public testing::Test, public Windows {
+class OnAirWindowTest : public testing::Test, public LastWindow {
  protected:
-  std::unique_ptr<FormWindow> Create(Form& created) override {
-    auto made = std::make_unique<OnAirWindow>(created, scene);
-    window = made->Window();
-    return made;
-  }
-  PixelSize ScreenSize() const override { return {640, 480}; }
-
   QColor At(int x, int y) { return window->grabWindow().pixelColor(x, y); }
   bool Becomes(int x, int y, const QColor& expected) {
     return Until([&] { return Distance(At(x, y), expected) < 24; }, 10s);
@@ -79,14 +70,10 @@ class OnAirWindowTest : public testing::Test, public Windows {
 
   SimWorld sim;
   QtClock clock;
-  QtScheduler scheduler;
-  PictureLoader loader;
-  Scene scene{scheduler, loader};
   PosixFiles files;
   MpvEngine media;
   QtFlash flash{loader, MOVIE_PROGRAM};
   QtPictures pictures;
-  QPointer<QQuickWindow> window;
   World world{clock, scheduler,   files,       media,        flash,       sim.browser, pictures,
               *this, sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, test_media::PathOf("station")};

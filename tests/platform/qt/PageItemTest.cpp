@@ -5,16 +5,14 @@
 #include <QTest>
 #include <vector>
 
-#include "platform/qt/QtScheduler.h"
 #include "platform/qt/frames/FrameSource.h"
 #include "platform/qt/frames/TakesInput.h"
-#include "platform/qt/scene/OnAirWindow.h"
-#include "platform/qt/scene/PictureLoader.h"
 #include "platform/sim/SimWorld.h"
 #include "platform/toolkit/BrowserControl.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "settings/Station.h"
+#include "tests/platform/qt/LastWindow.h"
 #include "tests/platform/qt/TestMedia.h"
 
 // A page in a window on the air: which part of it is seen, and whose the operator's hands are.
@@ -103,13 +101,8 @@ class frmPeep : public Form {
   int presses = 0;
 };
 
-class PageItemTest : public testing::Test, public Windows {
+class PageItemTest : public testing::Test, public LastWindow {
  protected:
-  std::unique_ptr<FormWindow> Create(Form& created) override {
-    auto made = std::make_unique<OnAirWindow>(created, scene);
-    window = made->Window();
-    return made;
-  }
   PixelSize ScreenSize() const override { return {400, 300}; }
 
   bool Shows(int x, int y, const QColor& colour) {
@@ -118,11 +111,7 @@ class PageItemTest : public testing::Test, public Windows {
   PaintedPage& Page() { return *pages.page; }
 
   SimWorld sim;
-  QtScheduler scheduler;
-  PictureLoader loader;
-  Scene scene{scheduler, loader};
   PaintedPages pages;
-  QPointer<QQuickWindow> window;
   World world{sim.time, scheduler,   sim.files,   sim.media,    sim.flash,   pages,    sim.pictures,
               *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, test_media::PathOf("station")};

@@ -1,13 +1,10 @@
 #include <QQuickWindow>
 #include <QTest>
 
-#include "platform/Windows.h"
-#include "platform/qt/scene/OnAirWindow.h"
-#include "platform/qt/scene/PictureLoader.h"
-#include "platform/qt/scene/Scene.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Panes.h"
 #include "settings/Station.h"
+#include "tests/platform/qt/LastWindow.h"
 #include "tests/platform/qt/Worlds.h"
 
 namespace {
@@ -31,20 +28,9 @@ class frmPeek : public Form {
   PictureBox Cover{*this, "Cover"};
 };
 
-class PreviewWindowTest : public testing::Test, public Windows {
+class PreviewWindowTest : public testing::Test, public LastWindow {
  protected:
-  std::unique_ptr<FormWindow> Create(Form& created) override {
-    auto made = std::make_unique<OnAirWindow>(created, scene);
-    window = made->Window();
-    return made;
-  }
-  PixelSize ScreenSize() const override { return {640, 480}; }
-
   SimWorld sim;
-  QtScheduler scheduler;
-  PictureLoader loader;
-  Scene scene{scheduler, loader};
-  QPointer<QQuickWindow> window;
   World world{sim.time, sim.time,    sim.files,   sim.media,    sim.flash,   sim.browser, sim.pictures,
               *this,    sim.dialogs, sim.desktop, sim.monitors, sim.network, sim.feeds};
   Station station{world, "/station"};
