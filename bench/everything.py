@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """everything.py [MINUTES]: a station with every feature on: nine movies, the crawl, a web page that changes five times a
 second, and a live channel over the clip. First how long it takes from its start, without the splash's two
-seconds, to the programme's first picture and to the last of its overlays, column and page; then, while it plays for
+seconds, to the programme's first picture and to the last of its overlays, column and page, of which the most stand where
+only the window's final size, two seconds after it has opened, brings them out; then, while it plays for
 MINUTES (10 unless told otherwise), CPU seconds per second of the process tree and of the X server, late ticks of the
 crawl, and memory: as a whole and without the pages of files."""
 
@@ -26,6 +27,8 @@ import movies  # the station's own, which the demo makes
 PAGE_PLACE = (1240, 620, 380, 240)
 COLUMN = 300
 COLOURS = {"FrmLogoShow": "yellow", "frmClockShow": "magenta", "frmStikerShow": "white", "frmFlashAdShow": "green"}
+PROGRAMME = (700, 300)
+"""A place that the picture fills also in the window's own size, which it keeps for two seconds after it has opened."""
 STRIP = (90, 0, 10)
 """Of the edge of the demo's strip."""
 
@@ -79,7 +82,7 @@ def start_up():
             is_strip = all(abs(one - other) < 12 for one, other in zip(strip, STRIP))
             return is_strip and shows(page, "green") and all(shows(point, colour) for colour, point in marks.items())
 
-        until("the programme", lambda: shows((1000, 600), "red"), pause=LOOK_EVERY)
+        until("the programme", lambda: shows(PROGRAMME, "red"), pause=LOOK_EVERY)
         programme = time.monotonic() - began - SPLASH
         until("all that stands on it", all_show, pause=LOOK_EVERY)
         last = time.monotonic() - began - SPLASH
