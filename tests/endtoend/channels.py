@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 """Online channels: a stream over the programme, and what becomes of it when its source dies."""
 
+import functools
+
 from harness import ini, media
 from harness.patience import throughout, until
 from harness.scenarios import main, require_network, scenario
@@ -91,9 +93,20 @@ def a_stream_that_stands_still_shows_in_the_status_line_and_all_else_goes_on(des
 
 @scenario
 def streams_over_udp_rtp_srt_and_rtmp_go_on_air(desk):
+    go_on_air_in_turn(desk, {name: functools.partial(Streams.over, scheme=name) for name in SENDERS})
+
+
+@scenario
+def streams_over_https_rtsp_and_mms_go_on_air(desk):
+    go_on_air_in_turn(desk, {"https": Streams.https, "rtsp": Streams.rtsp, "mms": Streams.mms})
+
+
+def go_on_air_in_turn(desk, makers):
+    """Makers by their channel's name: each gives the address of a stream of the colour it is told."""
     with Streams(desk.folder / "streams") as streams:
-        colours = dict(zip(SENDERS, ("green", "yellow", "magenta", "white")))
-        station, reader = station_with_channels(desk, {name: streams.over(name, colours[name]) for name in SENDERS})
+        colours = dict(zip(makers, ("green", "yellow", "magenta", "white")))
+        addresses = {name: make(streams, colour=colours[name]) for name, make in makers.items()}
+        station, reader = station_with_channels(desk, addresses)
         for name, colour in colours.items():
             put_on_air(reader, name)
             station.await_colour(colour)

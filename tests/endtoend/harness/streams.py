@@ -4,11 +4,13 @@ import functools
 import http.server
 import shutil
 import socket
+import ssl
 import subprocess
 import threading
 
 from . import media
 from .patience import until
+from .rtsp import RtspServer
 
 SEGMENT_SECONDS = 1
 # What ffmpeg's address has behind the port, and the form that it sends. Of these srt and rtmp wait for somebody.
@@ -18,6 +20,10 @@ SENDERS = {
     "srt": ("?mode=listener", ("-f", "mpegts")),
     "rtmp": ("/live/one", ("-f", "flv", "-listen", "1")),
 }
+
+
+# What is sent as it is made, by the first folder of its address: its type, and ffmpeg's form.
+LIVE = {"ts": ("video/mp2t", "mpegts"), "mms": ("application/x-mms-framed", "asf_stream")}
 
 
 class Streams:
@@ -56,6 +62,25 @@ class Streams:
         self.maker(colour, *form, address + query)
         return address + query if scheme == "rtmp" else address
 
+    def https(self, colour):
+        """The address of a plain MPEG transport stream whose sender nobody vouches for."""
+        certificate = self._folder / "certificate.pem"
+        command = ["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1"]
+        subprocess.run([*command, "-keyout", certificate, "-out", certificate], check=True, capture_output=True)
+        context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+        context.load_cert_chain(certificate)
+        server = self._serve(0, context)
+        return f"https://127.0.0.1:{server.server_address[1]}/ts/{colour}"
+
+    def mms(self, colour):
+        """The address of a stream as media servers of Windows send it over HTTP."""
+        return f"mms://127.0.0.1:{self._port}/mms/{colour}"
+
+    def rtsp(self, colour):
+        """The address of a stream that is asked for by RTSP."""
+        server = RtspServer(lambda port: self.maker(colour, "-f", "rtp_mpegts", f"rtp://127.0.0.1:{port}?pkt_size=1316"))
+        return f"rtsp://127.0.0.1:{server.port}/{colour}"
+
     def stall(self):
         """Nothing more comes of the plain streams, whose connections stay."""
         self.flowing.clear()
@@ -78,12 +103,18 @@ class Streams:
         self._listen()
 
     def _listen(self):
-        handler = functools.partial(_Handler, self, directory=str(self._folder))
-        self._server = http.server.ThreadingHTTPServer(("127.0.0.1", self._port), handler)
-        self._server.daemon_threads = True
-        self._server.block_on_close = False
+        self._server = self._serve(self._port)
         self._port = self._server.server_address[1]
-        threading.Thread(target=self._server.serve_forever, daemon=True).start()
+
+    def _serve(self, port, tls=None):
+        handler = functools.partial(_Handler, self, directory=str(self._folder))
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
+        server.daemon_threads = True
+        server.block_on_close = False
+        if tls is not None:
+            server.socket = tls.wrap_socket(server.socket, server_side=True)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        return server
 
     def _make_hls(self, colour):
         folder = self._folder / colour
@@ -114,12 +145,13 @@ class _Handler(http.server.SimpleHTTPRequestHandler):
 
     def do_GET(self):
         _, kind, name, *_ = f"{self.path}//".split("/")
-        if kind != "ts":
+        if kind not in LIVE:
             return super().do_GET()
+        content, form = LIVE[kind]
         self.send_response(200)
-        self.send_header("Content-Type", "video/mp2t")
+        self.send_header("Content-Type", content)
         self.end_headers()
-        source = self._streams.maker(name, "-f", "mpegts", "-")
+        source = self._streams.maker(name, "-f", form, "-")
         try:
             while piece := source.stdout.read1(65536):
                 self._streams.flowing.wait()
