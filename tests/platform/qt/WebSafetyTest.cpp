@@ -152,6 +152,18 @@ TEST_F(WebSafetyTest, ARendererThatDiesAgainAndAgainComesBackAtGrowingPauses) {
   }
 }
 
+// With what a renderer may hold kept small, or it would take the machine a minute.
+TEST_F(WebSafetyTest, APageThatTakesAllMemoryAndItsRendererWithItIsTriedAgainAndLeftForAnother) {
+  qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--js-flags=--max-old-space-size=30");
+  server.Put("/page",
+             PageWith("good(); const all = []; setTimeout(() => { for (;;) all.push(new Array(99999).fill(0.5)); "
+                      "}, 300)"));
+  ASSERT_TRUE(TurnsGood(server.Address("/page")));
+  ASSERT_TRUE(::Until([&] { return server.asked["/page"] >= 3; }));
+  qunsetenv("QTWEBENGINE_CHROMIUM_FLAGS");
+  EXPECT_TRUE(IsGoodOnDisk("good()"));
+}
+
 TEST_F(WebSafetyTest, ARefreshDoesNotHurryAPageWhoseRendererDies) {
   ASSERT_TRUE(IsGoodOnNet("good()"));
   for (int loads = 1; loads <= 4; ++loads) {
