@@ -22,7 +22,6 @@ constexpr char kBrowser[] =
 // Plays the movies of the station that started it, and ends with it.
 int main(int argc, char** argv) {
   SettleUnseen();
-  qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", kBrowser);
   Answers::RegisterScheme();
   QGuiApplication application(argc, argv);

@@ -19,6 +19,7 @@ void KeepHeapsSmall() {
 void SettleUnseen() {
   KeepHeapsSmall();
   qputenv("QT_QPA_PLATFORM", "offscreen");  // nothing of it is ever on a screen
+  qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");  // which would bring a driver and its compiler with it
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
   QLoggingCategory::setFilterRules("qt.webenginecontext*=false\njs*=false\nqt.qml*=false");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
