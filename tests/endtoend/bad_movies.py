@@ -6,7 +6,7 @@ import sys
 import zlib
 
 from harness import letters, media
-from harness.patience import until
+from harness.patience import BROWSER, until
 from harness.processes import is_there, kill_part, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, scenario
@@ -16,8 +16,6 @@ sys.path.insert(0, str(media.ROOT / "demo"))
 import movies  # noqa: E402
 
 GREEN, BLUE = (0, 200, 0), (0, 0, 200)
-# A browser has to come up, on a machine that may be busy with other things.
-BROWSER = 100.0
 
 
 def bomb(megabytes=600):
@@ -68,11 +66,6 @@ def middle(station):
     return window and station.screen.pixel(*window.centre)
 
 
-def assert_programme_runs(station, what):
-    before = until(f"the programme with a movie {what}", station.frame)
-    until(f"the programme to go on with a movie {what}", lambda: (station.frame() or before) > before)
-
-
 @scenario
 def bad_movies_one_after_the_other_while_the_programme_goes_on(desk):
     station = station_with_strip(desk, movies.plain(GREEN), StartUp=1)
@@ -86,7 +79,7 @@ def bad_movies_one_after_the_other_while_the_programme_goes_on(desk):
         put(station, movie)
         reader.choose_entry("Breaking nws", "Show")
         until("the strip", lambda: desk.screen.window(form="frmBreakingNews"))
-        assert_programme_runs(station, what)
+        station.assert_goes_on(f"the programme with a movie {what}")
     reader.choose_entry("Breaking nws", "Show")
     put(station, movies.plain(GREEN))
     reader.choose_entry("Breaking nws", "Show")
@@ -108,7 +101,7 @@ def a_surface_comes_back_by_itself_when_what_plays_it_is_killed(desk):
         until("the movie's end", lambda: middle(station) == BLUE, BROWSER)
         kill_part(station, part, "corvanta-movies")
         until("the movie's beginning", lambda: middle(station) == GREEN, BROWSER)
-        assert_programme_runs(station, "that was killed")
+        station.assert_goes_on("the programme with a movie that was killed")
 
 
 @scenario

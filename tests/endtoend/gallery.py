@@ -4,13 +4,10 @@
 import shutil
 
 from harness.pages import Pages, colour_at
-from harness.patience import until
+from harness.patience import BROWSER, until
 from harness.reader import Reader
 from harness.scenarios import main, scenario
 from harness.station import PROGRAM
-
-# A browser has to come up, on a machine that may be busy with other things.
-BROWSER = 100.0
 
 
 def gallery(desk):

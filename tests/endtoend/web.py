@@ -6,14 +6,12 @@ import time
 
 from harness import ini, media
 from harness.pages import BAD, ENDLESS, FIELD, NEVER, Pages, colour_at
-from harness.patience import throughout, until
+from harness.patience import BROWSER, throughout, until
 from harness.processes import command_of, is_there, kill_part, tree_of
 from harness.reader import Reader
 from harness.scenarios import main, require_network, scenario
 from harness.station import TWIPS, WEB_PAGE, Station, web_page
 
-# A browser has to come up, on a machine that may be busy with other things.
-BROWSER = 100.0
 PLACE = (60, 560, 400, 300)  # of the window: left, top, width and height in pixels
 OFFSET = (-300, -200)  # of the page in it
 
@@ -75,11 +73,6 @@ def hand_the_mouse_to_the_window(station):
     until("the desk to go", lambda: station.screen.window(form="frmPageSettings") is None)
 
 
-def assert_programme_runs(station):
-    before = until("the programme", station.frame)
-    until("the programme to go on", lambda: (station.frame() or before) > before)
-
-
 @scenario
 def a_page_is_seen_through_its_peephole_dragged_and_sized_by_its_edges_and_is_there_again(desk):
     require_network()
@@ -100,7 +93,7 @@ def a_page_is_seen_through_its_peephole_dragged_and_sized_by_its_edges_and_is_th
         left, width = left - 30, width + 30
         await_page(station, (left, top, width, height))
         assert stored(station, "FrmLeft") == str(PLACE[0] * TWIPS), "nothing is stored yet"
-        assert_programme_runs(station)
+        station.assert_goes_on()
 
         Reader(desk.screen).choose_entry("Web feed", "Show web feed")
         until("the window to go", lambda: window(station) is None)
@@ -140,7 +133,7 @@ def the_desk_moves_the_page_in_its_window_and_stores_it(desk):
         reader.press("Save position")
         until("the place to be stored", lambda: stored(station, "PageTop") == str(OFFSET[1] * TWIPS - 200))
         reader.press("Preview")
-        assert_programme_runs(station)
+        station.assert_goes_on()
 
 
 @scenario
@@ -151,7 +144,7 @@ def what_is_typed_into_a_page_reaches_its_server(desk):
         desk.screen.type("news")
         desk.screen.keys("Return")
         until("what was typed", lambda: "/typed?text=news" in pages.asked)
-        assert_programme_runs(station)
+        station.assert_goes_on()
 
 
 @scenario
@@ -164,7 +157,7 @@ def a_page_comes_back_when_what_shows_it_is_killed(desk):
             kill_part(station, part, "corvanta-pages")
             until(f"the page to be asked for again after the end of its {part}", lambda: len(pages.asked) > asked, BROWSER)
             await_page(station)
-            assert_programme_runs(station)
+            station.assert_goes_on()
 
 
 @scenario
@@ -185,7 +178,7 @@ def no_page_holds_up_the_station_or_the_page_behind_it(desk):
             reader.press("Load")
             until(f"the page {name} to be asked for", lambda: path in pages.asked, BROWSER)
             time.sleep(3)
-            assert_programme_runs(station)
+            station.assert_goes_on()
             assert {window.number for window in desk.screen.windows()} == shown, f"what does {name} show?"
             reader.press(WEB_PAGE, "list item")
             reader.press("Load")

@@ -4,6 +4,8 @@ import time
 
 # Long enough for a slow and busy machine; a scenario that goes well never waits it out.
 PATIENCE = 30.0
+# A browser has to come up as well.
+BROWSER = 100.0
 
 
 class GaveUp(AssertionError):

@@ -182,6 +182,11 @@ class Station:
         seen = self.items(len(wanted))
         assert seen == list(wanted), f"on the air were {seen} and not {list(wanted)}"
 
+    def assert_goes_on(self, what="the programme"):
+        """Its pictures count on; see `media.frames`."""
+        before = until(what, self.frame)
+        until(f"{what} to go on", lambda: (self.frame() or before) > before)
+
     def assert_responsive(self):
         """The control window comes on Ctrl+M."""
         self._is_alive()
