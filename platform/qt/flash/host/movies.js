@@ -53,7 +53,8 @@ const movies = (() => {
     setRate();
   }
 
-  // An element that is taken away before its player is made leaves it at work; so it is taken away once more.
+  // A movie is taken away while it comes up when its place is cleared, ends or goes over to the other page. An element that
+  // goes before its player is made leaves it at work unseen; so it is taken away once more.
   function endLate(element) {
     document.body.appendChild(element);
     element.remove();
