@@ -8,7 +8,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "platform/qt/flash/MovieWire.h"
+#include "platform/qt/programs/Wire.h"
 
 namespace {
 
