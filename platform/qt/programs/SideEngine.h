@@ -46,7 +46,7 @@ class SideEngine {
   // What only this kind of program says.
   virtual void Hear(const QCborArray& message) = 0;
   // The program has begun, and is told of the surfaces next.
-  virtual void Begun() {}
+  virtual void ProgramBegun() {}
   // The last surface is gone.
   virtual void Emptied() {}
 
@@ -65,7 +65,7 @@ class SideEngine {
     }
   }
   void TellAll() {
-    Begun();
+    ProgramBegun();
     for (const auto& [slot, surface] : surfaces_) surface->TellAll();
   }
 

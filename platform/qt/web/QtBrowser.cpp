@@ -20,7 +20,7 @@ std::unique_ptr<BrowserSurface> QtBrowser::NewSurface(const std::string& name, B
   return page;
 }
 
-void QtBrowser::Begun() {
+void QtBrowser::ProgramBegun() {
   const bool mayBeDamaged = sinceBegun_.isValid() && sinceBegun_.elapsed() < kAGoodLife;
   sinceBegun_.start();
   Program().Send({wire::kProfile, QString::fromStdString(profileFolder_), mayBeDamaged});

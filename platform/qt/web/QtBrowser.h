@@ -21,7 +21,7 @@ class QtBrowser : public BrowserEngine, public SideEngine<QtPage> {
 
  private:
   void Hear(const QCborArray& message) override;
-  void Begun() override;
+  void ProgramBegun() override;
   void Emptied() override;
 
   std::string profileFolder_;
