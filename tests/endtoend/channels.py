@@ -66,6 +66,20 @@ def goes_on_air_breaks_and_comes_back(desk, make):
         station.assert_responsive()
 
 
+def go_on_air_in_turn(desk, makers):
+    """Makers by their channel's name: each gives the address of a stream of the colour it is told."""
+    with Streams(desk.folder / "streams") as streams:
+        colours = dict(zip(makers, ("green", "yellow", "magenta", "white")))
+        addresses = {name: make(streams, colour=colours[name]) for name, make in makers.items()}
+        station, reader = station_with_channels(desk, addresses)
+        for name, colour in colours.items():
+            put_on_air(reader, name)
+            station.await_colour(colour)
+            until("the status of the stream", lambda: says(reader, "Playing"))
+        reader.press(STOP)
+        until("the playlist again", lambda: station.colour() in ("red", "blue"))
+
+
 @scenario
 def a_live_hls_stream_goes_on_air_over_the_playlist_and_comes_back_after_a_cut(desk):
     goes_on_air_breaks_and_comes_back(desk, lambda streams: streams.hls("green"))
@@ -99,20 +113,6 @@ def streams_over_udp_rtp_srt_and_rtmp_go_on_air(desk):
 @scenario
 def streams_over_https_rtsp_and_mms_go_on_air(desk):
     go_on_air_in_turn(desk, {"https": Streams.https, "rtsp": Streams.rtsp, "mms": Streams.mms})
-
-
-def go_on_air_in_turn(desk, makers):
-    """Makers by their channel's name: each gives the address of a stream of the colour it is told."""
-    with Streams(desk.folder / "streams") as streams:
-        colours = dict(zip(makers, ("green", "yellow", "magenta", "white")))
-        addresses = {name: make(streams, colour=colours[name]) for name, make in makers.items()}
-        station, reader = station_with_channels(desk, addresses)
-        for name, colour in colours.items():
-            put_on_air(reader, name)
-            station.await_colour(colour)
-            until("the status of the stream", lambda: says(reader, "Playing"))
-        reader.press(STOP)
-        until("the playlist again", lambda: station.colour() in ("red", "blue"))
 
 
 @scenario

@@ -13,13 +13,9 @@ class RtspServer(socketserver.ThreadingTCPServer):
     """`make` starts what sends the stream, an MPEG transport stream in RTP packets, to a port of this machine; it is
     called once for each who plays it."""
 
-    daemon_threads = True
-
     def __init__(self, make):
         super().__init__(("127.0.0.1", 0), _Handler)
         self.make = make
-        self.port = self.server_address[1]
-        threading.Thread(target=self.serve_forever, daemon=True).start()
 
 
 class _Handler(socketserver.StreamRequestHandler):

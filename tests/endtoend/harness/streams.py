@@ -20,8 +20,6 @@ SENDERS = {
     "srt": ("?mode=listener", ("-f", "mpegts")),
     "rtmp": ("/live/one", ("-f", "flv", "-listen", "1")),
 }
-
-
 # What is sent as it is made, by the first folder of its address: its type, and ffmpeg's form.
 LIVE = {"ts": ("video/mp2t", "mpegts"), "mms": ("application/x-mms-framed", "asf_stream")}
 
@@ -33,13 +31,14 @@ class Streams:
         self._folder = folder
         self._folder.mkdir()
         self._makers = []
+        self._servers = []
         self._port = 0
         self._colours = []
         self.flowing = threading.Event()
         self.flowing.set()
 
     def __enter__(self):
-        self._listen()
+        self._port = self._serve(0)
         return self
 
     def __exit__(self, *_):
@@ -69,8 +68,7 @@ class Streams:
         subprocess.run([*command, "-keyout", certificate, "-out", certificate], check=True, capture_output=True)
         context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
         context.load_cert_chain(certificate)
-        server = self._serve(0, context)
-        return f"https://127.0.0.1:{server.server_address[1]}/ts/{colour}"
+        return f"https://127.0.0.1:{self._serve(0, context)}/ts/{colour}"
 
     def mms(self, colour):
         """The address of a stream as media servers of Windows send it over HTTP."""
@@ -79,7 +77,7 @@ class Streams:
     def rtsp(self, colour):
         """The address of a stream that is asked for by RTSP."""
         server = RtspServer(lambda port: self.maker(colour, "-f", "rtp_mpegts", f"rtp://127.0.0.1:{port}?pkt_size=1316"))
-        return f"rtsp://127.0.0.1:{server.port}/{colour}"
+        return f"rtsp://127.0.0.1:{self._begin(server)}/{colour}"
 
     def stall(self):
         """Nothing more comes of the plain streams, whose connections stay."""
@@ -88,8 +86,10 @@ class Streams:
     def cut(self):
         """The sources die in mid-sentence, and nothing answers any more."""
         self.flowing.set()
-        self._server.shutdown()
-        self._server.server_close()
+        for server in self._servers:
+            server.shutdown()
+            server.server_close()
+        self._servers = []
         for maker in self._makers:
             maker.kill()
             maker.wait()
@@ -100,21 +100,23 @@ class Streams:
         for colour in self._colours:
             shutil.rmtree(self._folder / colour)
             self._make_hls(colour)
-        self._listen()
-
-    def _listen(self):
-        self._server = self._serve(self._port)
-        self._port = self._server.server_address[1]
+        self._port = self._serve(self._port)
 
     def _serve(self, port, tls=None):
+        """The port that it is at: this one, or a free one for 0."""
         handler = functools.partial(_Handler, self, directory=str(self._folder))
         server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
-        server.daemon_threads = True
-        server.block_on_close = False
         if tls is not None:
             server.socket = tls.wrap_socket(server.socket, server_side=True)
+        return self._begin(server)
+
+    def _begin(self, server):
+        """Has it answer until the sources are cut; its port."""
+        server.daemon_threads = True
+        server.block_on_close = False
+        self._servers.append(server)
         threading.Thread(target=server.serve_forever, daemon=True).start()
-        return server
+        return server.server_address[1]
 
     def _make_hls(self, colour):
         folder = self._folder / colour
